@@ -1,0 +1,84 @@
+#include "BancoApostas.h"
+
+namespace sorvelo {
+
+void InsereLinhaBanco(Programa& p, const QString& Texto, bool Negrito) {
+    p.tela.TxtBanco.acrescenta(Texto, CorLog, Negrito);
+}
+
+void InsereLinhaAposta(DocumentoRico& doc, int64_t n, const QString& Aposta, const QString& FimLinha) {
+    const QString linha = formata(n, 5) + QStringLiteral(")   ") + Aposta + FimLinha;
+    doc.acrescenta(linha.left(6), CorNumeroLinha, false);
+    doc.acrescenta(linha.mid(6), CorAposta, false);
+}
+
+void InsereApostaBanco(Programa& p, const QString& Aposta, int64_t n) {
+    InsereLinhaAposta(p.tela.TxtBanco, n, Aposta, p.e.FimLinha);
+}
+
+void InsereApostaMarcada(Programa& p) {
+    auto& e = p.e;
+    e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor());
+    QString aposta;
+    Int16 c = 0;
+    for (int i = 0; i <= 99; ++i) {
+        const Celula& cel = p.tela.Num(i);
+        if (cel.BackColor == e.CorFixo || cel.BackColor == e.CorMarcado) {
+            e.VetBan.define(c.valor(), e.QuantBan.valor(), cel.Text);
+            aposta += cel.Text + u' ';
+            ++c;
+        }
+    }
+    e.VetBan.define(c.valor(), e.QuantBan.valor(), QStringLiteral("#"));
+    InsereApostaBanco(p, aposta, (e.QuantBan + 1).valor());
+    e.QuantBan += 1;
+}
+
+QString RetAposta(const Programa& p, Int32 Linha) {
+    QString s;
+    for (Int16 c = 0;; ++c) {
+        const QString v = p.e.VetBan.valor(c.valor(), Linha.valor());
+        if (v == u'#') break;
+        s += v + u' ';
+    }
+    return s;
+}
+
+bool LimpaBancoApostas(Programa& p) {
+    auto& e = p.e;
+    auto& t = p.tela;
+    if (e.BancoAlterado && !t.TxtBanco.texto().isEmpty()) {
+        switch (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"), Botoes::SimNaoCancelar,
+                                    Resposta::Sim)) {
+        case Resposta::Sim:
+            if (p.salvarArquivo) p.salvarArquivo(p);
+            break;
+        case Resposta::Cancelar: return false;
+        default: break;
+        }
+    }
+    t.TxtBanco.defineTexto(QString());
+    e.VetBan.redimensiona(81, 1);
+    e.QuantBan = 0;
+    t.TxtQuantApostas.Text.clear();
+    t.TxtValorApostas.Text.clear();
+    e.TextoEstatistica.clear();
+    e.ArquivoBanco.clear();
+    e.DezEscolhidas.clear();
+    e.Historico = p.agoraTexto() + QStringLiteral(": Limpou banco de apostas\r\n");
+    return true;
+}
+
+void BtnLimparBanco(Programa& p) {
+    if (p.tela.TxtBanco.texto().isEmpty()) return;
+    if (p.s.caixa->pergunta(QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"), Botoes::SimNao,
+                            Resposta::Nao) == Resposta::Sim)
+        LimpaBancoApostas(p);
+}
+
+QString CabecalhoLote(const Programa& p) {
+    return QStringLiteral("Dezenas escolhidas: ") + p.e.DezEscolhidas + QStringLiteral("\r\n") + p.e.Historico +
+           QStringLiteral("\r\n");
+}
+
+} // namespace sorvelo

@@ -1,0 +1,96 @@
+// Two-dimensional arrays of text with the bounds semantics of the original
+// (ReDim clears, ReDim Preserve grows the last dimension keeping contents,
+// an index outside the bounds is failure 9), stored compactly: a cell that is
+// empty, "#" or a two-digit number takes one byte.
+#pragma once
+
+#include "Semantica.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace sorvelo {
+
+class MatrizTexto {
+public:
+    // Cell codes of the compact store.
+    static constexpr uint8_t Vazio = 0;
+    static constexpr uint8_t Fim = 1;           // "#"
+    static constexpr uint8_t PrimeiroNumero = 2; // "00" is 2, "99" is 101
+    static constexpr uint8_t Outro = 255;        // any other text, kept aside
+
+    static uint8_t codigoDe(const QString& texto);
+    static QString textoDe(uint8_t codigo); // not for Outro
+    static constexpr uint8_t codigoNumero(int n) { return uint8_t(PrimeiroNumero + n); }
+
+    // ReDim: columns 0..ultimaColuna, rows 0..ultimaLinha, all cells emptied.
+    void redimensiona(int64_t ultimaColuna, int64_t ultimaLinha);
+    // ReDim Preserve: the last row becomes ultimaLinha, the contents stay.
+    void redimensionaPreservando(int64_t ultimaLinha);
+    // Erase: no bounds any more.
+    void apaga();
+
+    bool temLimites() const { return temLimites_; }
+    int32_t ultimaColuna() const { return ultimaColuna_; }
+    int32_t ultimaLinha() const { return int32_t(int64_t(linhas_.size()) - 1); }
+    int64_t quantLinhas() const { return int64_t(linhas_.size()); }
+
+    QString valor(int64_t coluna, int64_t linha) const;
+    void define(int64_t coluna, int64_t linha, const QString& texto);
+    uint8_t codigo(int64_t coluna, int64_t linha) const;
+    void defineCodigo(int64_t coluna, int64_t linha, uint8_t codigo);
+
+    // The row's cells from column 0 up to and including the first "#"
+    // (the whole stored row when it has none), as codes; Outro cells are
+    // read with valor().
+    const uint8_t* celulas(int64_t linha, int& quant) const;
+
+    // Bytes held by the store (for the memory budget).
+    size_t bytesUsados() const;
+
+private:
+    struct Linha {
+        uint64_t inicio = 0;
+        uint8_t tamanho = 0;
+        uint8_t capacidade = 0;
+    };
+    void verifica(int64_t coluna, int64_t linha) const;
+    uint8_t* reserva(Linha& l, int colunas);
+    uint64_t chave(int64_t coluna, int64_t linha) const { return uint64_t(linha) * 256u + uint64_t(coluna); }
+
+    bool temLimites_ = false;
+    int32_t ultimaColuna_ = -1;
+    std::vector<Linha> linhas_;
+    std::vector<uint8_t> celulas_;
+    std::unordered_map<uint64_t, QString> outros_;
+};
+
+// One-dimensional array with fixed bounds; an index outside is failure 9.
+template <typename T> class Vetor {
+public:
+    Vetor(int64_t inferior, int64_t superior) : inferior_(inferior), dados_(size_t(superior - inferior + 1)) {}
+    T& operator()(int64_t i) {
+        verifica(i);
+        return dados_[size_t(i - inferior_)];
+    }
+    const T& operator()(int64_t i) const {
+        verifica(i);
+        return dados_[size_t(i - inferior_)];
+    }
+    int64_t inferior() const { return inferior_; }
+    int64_t superior() const { return inferior_ + int64_t(dados_.size()) - 1; }
+    void preenche(const T& v) { std::fill(dados_.begin(), dados_.end(), v); }
+
+private:
+    void verifica(int64_t i) const {
+        if (i < inferior_ || i > superior()) foraDoIntervalo();
+    }
+    int64_t inferior_;
+    std::vector<T> dados_;
+};
+
+} // namespace sorvelo

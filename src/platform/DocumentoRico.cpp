@@ -1,0 +1,136 @@
+#include "DocumentoRico.h"
+
+#include "../core/Semantica.h"
+
+#include <algorithm>
+#include <new>
+
+namespace sorvelo {
+
+uint16_t DocumentoRico::indiceFormato(Formato f) {
+    for (size_t i = 0; i < formatos_.size(); ++i)
+        if (formatos_[i] == f) return uint16_t(i);
+    if (formatos_.size() >= 0xFFFF) throw FalhaExecucao(erro::MemoriaInsuficiente);
+    formatos_.push_back(f);
+    return uint16_t(formatos_.size() - 1);
+}
+
+void DocumentoRico::mudou() {
+    ++versao_;
+    if (aoMudar) aoMudar();
+}
+
+void DocumentoRico::defineTexto(const QString& texto) {
+    texto_ = texto;
+    trechos_.clear();
+    iniciosLinha_.assign(1, 0);
+    if (!texto_.isEmpty()) trechos_.push_back(uint64_t(indiceFormato(formatoPadrao)));
+    indexaLinhas(0);
+    mudou();
+}
+
+void DocumentoRico::acrescenta(const QString& pedaco, Formato formato) {
+    if (pedaco.isEmpty()) {
+        mudou();
+        return;
+    }
+    const int64_t inicio = texto_.size();
+    try {
+        const uint16_t f = indiceFormato(formato);
+        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f) trechos_.push_back(uint64_t(inicio) << 16 | f);
+        texto_.append(pedaco);
+    } catch (const std::bad_alloc&) {
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
+    }
+    indexaLinhas(inicio);
+    mudou();
+}
+
+void DocumentoRico::acrescenta(const DocumentoRico& outro) {
+    const int64_t base = texto_.size();
+    if (outro.texto_.isEmpty()) {
+        mudou();
+        return;
+    }
+    for (size_t i = 0; i < outro.trechos_.size(); ++i) {
+        const uint16_t f = indiceFormato(outro.formatos_[outro.trechos_[i] & 0xFFFF]);
+        const int64_t ini = base + int64_t(outro.trechos_[i] >> 16);
+        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f) trechos_.push_back(uint64_t(ini) << 16 | f);
+    }
+    texto_.append(outro.texto_);
+    indexaLinhas(base);
+    mudou();
+}
+
+void DocumentoRico::indexaLinhas(int64_t desde) {
+    // A CR at the end of the previous text followed by a LF now: the line
+    // start recorded after the CR moves past the LF.
+    const QChar* d = texto_.constData();
+    const int64_t n = texto_.size();
+    int64_t i = desde;
+    if (i > 0 && i < n && d[i - 1] == u'\r' && d[i] == u'\n') {
+        iniciosLinha_.back() = i + 1;
+        ++i;
+    }
+    for (; i < n; ++i) {
+        const char16_t c = d[i].unicode();
+        if (c == u'\r') {
+            if (i + 1 < n && d[i + 1] == u'\n') ++i;
+            iniciosLinha_.push_back(i + 1);
+        } else if (c == u'\n') {
+            iniciosLinha_.push_back(i + 1);
+        }
+    }
+}
+
+int64_t DocumentoRico::comprimentoLinha(int64_t linha) const {
+    const int64_t ini = iniciosLinha_[size_t(linha)];
+    int64_t fim = linha + 1 < quantLinhas() ? iniciosLinha_[size_t(linha + 1)] : int64_t(texto_.size());
+    while (fim > ini && (texto_[fim - 1] == u'\n' || texto_[fim - 1] == u'\r')) {
+        const bool lf = texto_[fim - 1] == u'\n';
+        --fim;
+        if (lf && fim > ini && texto_[fim - 1] == u'\r') --fim;
+        break;
+    }
+    return fim - ini;
+}
+
+int64_t DocumentoRico::linhaDa(int64_t posicao) const {
+    auto it = std::upper_bound(iniciosLinha_.begin(), iniciosLinha_.end(), posicao);
+    return std::max<int64_t>(0, int64_t(it - iniciosLinha_.begin()) - 1);
+}
+
+Formato DocumentoRico::formatoEm(int64_t posicao) const {
+    if (trechos_.empty()) return formatoPadrao;
+    auto it = std::upper_bound(trechos_.begin(), trechos_.end(), posicao,
+                               [](int64_t p, uint64_t t) { return p < int64_t(t >> 16); });
+    if (it == trechos_.begin()) return formatos_[trechos_.front() & 0xFFFF];
+    return formatos_[*(it - 1) & 0xFFFF];
+}
+
+std::vector<Trecho> DocumentoRico::trechos(int64_t inicio, int64_t fim) const {
+    std::vector<Trecho> r;
+    fim = std::min<int64_t>(fim, texto_.size());
+    if (inicio >= fim || trechos_.empty()) return r;
+    auto it = std::upper_bound(trechos_.begin(), trechos_.end(), inicio,
+                               [](int64_t p, uint64_t t) { return p < int64_t(t >> 16); });
+    if (it != trechos_.begin()) --it;
+    for (; it != trechos_.end(); ++it) {
+        const int64_t ini = int64_t(*it >> 16);
+        if (ini >= fim) break;
+        const int64_t proximo = (it + 1 != trechos_.end()) ? int64_t(*(it + 1) >> 16) : int64_t(texto_.size());
+        const int64_t a = std::max(ini, inicio), b = std::min(proximo, fim);
+        if (a < b) r.push_back({a, b, formatos_[*it & 0xFFFF]});
+    }
+    return r;
+}
+
+std::vector<Trecho> DocumentoRico::trechos() const { return trechos(0, texto_.size()); }
+
+void DocumentoRico::defineVisivel(bool v) {
+    if (v == visivel_) return;
+    visivel_ = v;
+    ++versao_;
+}
+
+} // namespace sorvelo

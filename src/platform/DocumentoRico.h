@@ -1,0 +1,85 @@
+// The content of a rich-text area: plain text with runs of colour and
+// weight, stored compactly so that a bank of millions of coloured lines fits.
+// The Qt view (platform/qt/AreaRica) paints it; the logic writes it.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace sorvelo {
+
+using Cor = uint32_t; // 0xRRGGBB
+constexpr Cor rgb(int r, int g, int b) { return Cor((r << 16) | (g << 8) | b); }
+constexpr int vermelho(Cor c) { return int((c >> 16) & 0xFF); }
+constexpr int verde(Cor c) { return int((c >> 8) & 0xFF); }
+constexpr int azul(Cor c) { return int(c & 0xFF); }
+
+struct Formato {
+    Cor cor = 0;
+    bool negrito = false;
+    friend bool operator==(const Formato&, const Formato&) = default;
+};
+
+struct Trecho {
+    int64_t inicio;
+    int64_t fim; // one past the last character
+    Formato formato;
+};
+
+class DocumentoRico {
+public:
+    // Text read: the plain text, one character per position.
+    const QString& texto() const { return texto_; }
+    int64_t comprimento() const { return texto_.size(); }
+
+    // Text write: replaces the whole content, in the default format.
+    void defineTexto(const QString& texto);
+    void limpa() { defineTexto(QString()); }
+    // Appends a piece at the end in the given format (the SelRTF of a
+    // staged, coloured line dropped at the end of the document).
+    void acrescenta(const QString& pedaco, Formato formato);
+    void acrescenta(const QString& pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
+    // Appends another document at the end, keeping its runs.
+    void acrescenta(const DocumentoRico& outro);
+
+    // Runs of equal format, in order, covering the text.
+    std::vector<Trecho> trechos() const;
+    std::vector<Trecho> trechos(int64_t inicio, int64_t fim) const;
+    Formato formatoEm(int64_t posicao) const;
+
+    // Lines: CR LF, CR or LF ends a line. A text that ends with a line end
+    // has an empty last line.
+    int64_t quantLinhas() const { return int64_t(iniciosLinha_.size()); }
+    int64_t inicioLinha(int64_t linha) const { return iniciosLinha_[size_t(linha)]; }
+    // Length of the line without its line end.
+    int64_t comprimentoLinha(int64_t linha) const;
+    int64_t linhaDa(int64_t posicao) const;
+
+    bool visivel() const { return visivel_; }
+    void defineVisivel(bool v);
+
+    // Raised on every change of the content.
+    std::function<void()> aoMudar;
+    // Grows with every change of the content or of the visibility.
+    uint64_t versao() const { return versao_; }
+
+    Formato formatoPadrao;
+
+private:
+    void indexaLinhas(int64_t desde);
+    void mudou();
+    uint16_t indiceFormato(Formato f);
+
+    QString texto_;
+    // Each run: start position << 16 | index in formatos_.
+    std::vector<uint64_t> trechos_;
+    std::vector<Formato> formatos_;
+    std::vector<int64_t> iniciosLinha_{0};
+    bool visivel_ = true;
+    uint64_t versao_ = 0;
+};
+
+} // namespace sorvelo

@@ -1,0 +1,143 @@
+// Scripted doubles of the desktop services, for tests and for the scenario
+// runner. None of them blocks: a question that nobody scripted is recorded
+// and answered with its default button.
+#pragma once
+
+#include "Servicos.h"
+
+#include <QStringList>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace sorvelo {
+
+struct CaixaVista {
+    enum class Tipo { Informacao, Aviso, Critico, Pergunta } tipo;
+    QString texto;
+    Botoes botoes = Botoes::SimNao;
+    Resposta padrao = Resposta::OK;
+    Resposta resposta = Resposta::OK;
+    bool roteirizada = false; // answered from the queue
+};
+
+class CaixaRoteirizada : public CaixaMensagem {
+public:
+    void responde(Resposta r) { respostas_.push_back(r); }
+    void informacao(const QString& texto) override;
+    void aviso(const QString& texto) override;
+    void critico(const QString& texto) override;
+    Resposta pergunta(const QString& texto, Botoes botoes, Resposta padrao) override;
+
+    const std::vector<CaixaVista>& vistas() const { return vistas_; }
+    // Questions that came with no scripted answer.
+    std::vector<CaixaVista> naoRoteirizadas() const;
+    size_t respostasPendentes() const { return respostas_.size(); }
+    void limpa() { vistas_.clear(); respostas_.clear(); }
+    // Called after each box is recorded (the scenario runner writes it down).
+    std::function<void(const CaixaVista&)> aoMostrar;
+
+private:
+    Resposta registra(CaixaVista v);
+    std::deque<Resposta> respostas_;
+    std::vector<CaixaVista> vistas_;
+};
+
+class DialogoRoteirizado : public DialogoArquivo {
+public:
+    // An empty path is a Cancel.
+    void enfileira(const QString& caminho) { caminhos_.push_back(caminho); }
+    QString abrir(const QString& titulo, const QString& filtro) override;
+    QString salvar(const QString& titulo, const QString& filtro) override;
+    struct Pedido {
+        bool salvar;
+        QString titulo, filtro, resposta;
+    };
+    const std::vector<Pedido>& pedidos() const { return pedidos_; }
+
+private:
+    QString proximo(bool salvar, const QString& titulo, const QString& filtro);
+    std::deque<QString> caminhos_;
+    std::vector<Pedido> pedidos_;
+};
+
+class ImpressoraRegistro : public Impressora {
+public:
+    void defineFonte(const QString& nome, double tamanho) override;
+    void imprime(const QString& texto) override;
+    void fim() override;
+    // "fonte Arial 10", "texto ...", "fim"
+    QStringList registro;
+    std::function<void(const QString&)> aoRegistrar;
+
+private:
+    void anota(const QString& linha);
+};
+
+// Answers scripted values first, then those of the classic generator.
+class FonteRoteirizada : public FonteAleatoria {
+public:
+    void enfileira(float r) { valores_.push_back(r); }
+    float rnd() override;
+    void randomize(double semente) override { sementes.push_back(semente); gerador_.randomize(semente); }
+    std::vector<double> sementes;
+
+private:
+    std::deque<float> valores_;
+    GeradorClassico gerador_;
+};
+
+class RelogioFixo : public Relogio {
+public:
+    explicit RelogioFixo(QDateTime momento = QDateTime(QDate(2026, 11, 22), QTime(14, 5, 9))) : momento(momento) {}
+    QDateTime agora() override { return momento; }
+    QDateTime momento;
+};
+
+class CedenciaContada : public Cedencia {
+public:
+    void cede() override {
+        ++quantas;
+        if (aoCeder) aoCeder(quantas);
+    }
+    long long quantas = 0;
+    std::function<void(long long)> aoCeder;
+};
+
+class AbridorRegistro : public Abridor {
+public:
+    void abre(const QString& endereco) override {
+        abertos.push_back(endereco);
+        if (aoAbrir) aoAbrir(endereco);
+    }
+    QStringList abertos;
+    std::function<void(const QString&)> aoAbrir;
+};
+
+class PastaFixa : public PastaPrograma {
+public:
+    explicit PastaFixa(QString caminho = QString()) : caminho_(std::move(caminho)) {}
+    QString caminho() override { return caminho_; }
+    void define(const QString& c) { caminho_ = c; }
+
+private:
+    QString caminho_;
+};
+
+// A complete set of doubles, ready to hand to a Programa.
+struct ServicosDuplos {
+    CaixaRoteirizada caixa;
+    DialogoRoteirizado dialogo;
+    ImpressoraRegistro impressora;
+    FonteRoteirizada aleatorio;
+    RelogioFixo relogio;
+    CedenciaContada cedencia;
+    AbridorRegistro abridor;
+    PastaFixa pasta;
+    Servicos servicos() {
+        return {&caixa, &dialogo, &impressora, &aleatorio, &relogio, &cedencia, &abridor, &pasta};
+    }
+};
+
+} // namespace sorvelo

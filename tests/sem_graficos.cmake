@@ -1,0 +1,12 @@
+# Fails when the given binary loads a Qt GUI module.
+execute_process(COMMAND ldd ${BINARIO} OUTPUT_VARIABLE saida RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "ldd falhou em ${BINARIO}")
+endif()
+if(saida MATCHES "libQt6(Gui|Widgets|PrintSupport)")
+  message(FATAL_ERROR "A lógica carrega um módulo gráfico:\n${saida}")
+endif()
+if(NOT saida MATCHES "libQt6Core")
+  message(FATAL_ERROR "Qt Core não encontrado em ${BINARIO}")
+endif()
+message(STATUS "A lógica liga só com Qt Core")
