@@ -45,8 +45,8 @@ struct Estado {
 // Control models. Names of the fields follow the controls' properties.
 struct Celula {
     QString Text;
-    Cor BackColor = 0;
-    Cor ForeColor = 0;
+    Cor BackColor = rgb(0, 64, 0);  // as drawn at design time
+    Cor ForeColor = rgb(0, 255, 0);
 };
 struct CampoTexto {
     QString Text;
@@ -85,7 +85,8 @@ struct TelaPrincipal {
     CampoTexto TxtEscolhidos, TxtDezAp, TxtDezAp2, TxtValAp, TxtLoteria, TxtQuantApostas, TxtValorApostas;
     Spin SpbDezAp, SpbDezAp2;
     CaixaMarcar ChkFixar, ChkReduzir;
-    Combo CmbFecha, CmbGarantia, CmbAcertar;
+    Combo CmbFecha, CmbGarantia;
+    Combo CmbAcertar{QString(), {}, false};
     bool BtnFecharEnabled = true;
     bool MenuMegaSena = false, MenuDuplaSena = false, MenuQuina = false, MenuLotomania = false,
          MenuLotoFacil = false;

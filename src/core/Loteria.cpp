@@ -85,6 +85,13 @@ void DerivaAcertar(Programa& p) {
     else if (valorNumerico(g) >= 7) p.tela.CmbAcertar.Text = g;
 }
 
+void CliqueGarantia(Programa& p) {
+    const QString& g = p.tela.CmbGarantia.Text;
+    const qsizetype k = palavrasGarantia().indexOf(g);
+    if (k >= 0) p.tela.CmbAcertar.Text = QString::number(k + 2);
+    else if (!p.tela.ChkReduzir.Value && valorNumerico(g) >= 7) p.tela.CmbAcertar.Text = g;
+}
+
 void ConfiguraLoteria(Programa& p, const QString& Nome) {
     auto& e = p.e;
     auto& t = p.tela;

@@ -32,6 +32,9 @@ void DesmarcaMenus(Programa& p);
 int valorGarantia(const QString& texto);
 // CmbAcertar derived from CmbGarantia's text.
 void DerivaAcertar(Programa& p);
+// A click in CmbGarantia's list: CmbAcertar follows the guarantee (a figure
+// from 7 up only while ChkReduzir is unchecked).
+void CliqueGarantia(Programa& p);
 // A game switch by menu or toolbar (nome in mixed case).
 void TrocaLoteria(Programa& p, const QString& nome);
 

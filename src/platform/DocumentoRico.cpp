@@ -26,6 +26,7 @@ void DocumentoRico::defineTexto(const QString& texto) {
     iniciosLinha_.assign(1, 0);
     if (!texto_.isEmpty()) trechos_.push_back(uint64_t(indiceFormato(formatoPadrao)));
     indexaLinhas(0);
+    ++geracao_;
     mudou();
 }
 

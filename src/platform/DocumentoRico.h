@@ -65,6 +65,9 @@ public:
     std::function<void()> aoMudar;
     // Grows with every change of the content or of the visibility.
     uint64_t versao() const { return versao_; }
+    // Grows each time the whole content is replaced (defineTexto, limpa), so
+    // that a view can tell a rewrite from an append.
+    uint64_t geracao() const { return geracao_; }
 
     Formato formatoPadrao;
 
@@ -80,6 +83,7 @@ private:
     std::vector<int64_t> iniciosLinha_{0};
     bool visivel_ = true;
     uint64_t versao_ = 0;
+    uint64_t geracao_ = 0;
 };
 
 } // namespace sorvelo

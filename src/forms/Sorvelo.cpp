@@ -1,0 +1,500 @@
+#include "Sorvelo.h"
+
+#include "Controles.h"
+#include "Desenhos.h"
+#include "Protecao.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
+#include "core/Loteria.h"
+#include "core/Principal.h"
+#include "platform/qt/AreaRica.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace sorvelo {
+
+namespace {
+QColor qcor(Cor c) { return QColor(vermelho(c), verde(c), azul(c)); }
+
+// Sets a text box's text from the model, leaving it alone when equal (so
+// that the caret of a person typing does not jump).
+void poeTexto(QLineEdit* w, const CampoTexto& c) {
+    if (w->text() != c.Text) w->setText(c.Text);
+    w->setEnabled(c.Enabled);
+}
+void poeCombo(QComboBox* w, const Combo& c) {
+    if (w->currentText() != c.Text) w->setEditText(c.Text);
+    w->setEnabled(c.Enabled);
+}
+QStringList itensGarantia(int ate) {
+    QStringList l = {QStringLiteral("Duque"), QStringLiteral("Terno"), QStringLiteral("Quadra"),
+                     QStringLiteral("Quina"), QStringLiteral("Sena")};
+    for (int i = 7; i <= ate; ++i) l << QString::number(i);
+    return l;
+}
+} // namespace
+
+Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p) {
+    setObjectName(QStringLiteral("Sorvelo"));
+    setProperty("sorvelo_forma", true);
+    setWindowIcon(iconePrograma());
+    if (const QScreen* tela = screen()) dpi_ = tela->logicalDotsPerInchX();
+    QFont fonte(QStringLiteral("Arial"));
+    fonte.setPointSize(8);
+    setFont(fonte);
+    FiltroEnter::instala();
+
+    area_ = new QWidget(this);
+    area_->setObjectName(QStringLiteral("AreaPrincipal"));
+    setCentralWidget(area_);
+
+    montaMenus();
+    montaBarra();
+
+    picLoteria_ = poe(new QWidget, area_, "PicLoteria", 0, 600, 11535, 10000);
+    picLoteria_->installEventFilter(this);
+    montaQuadroNumeros();
+    montaQuadroBanco();
+    montaQuadrosCombinacao();
+    montaQuadroOpcoes();
+    montaAjuda();
+
+    barraVert_ = static_cast<QScrollBar*>(poe(new QScrollBar(Qt::Vertical), area_, "BarraVert", 11520, 600, 255, 2295));
+    barraHoriz_ =
+        static_cast<QScrollBar*>(poe(new QScrollBar(Qt::Horizontal), area_, "BarraHoriz", 0, 7800, 2295, 255));
+    for (QScrollBar* b : {barraVert_, barraHoriz_}) {
+        b->setRange(1, 100);
+        b->setValue(1);
+        b->setSingleStep(1);
+        b->setPageStep(10);
+    }
+    liga(barraVert_, &QScrollBar::valueChanged, [this](int v) { MudaBarraVert(p_, v); });
+    liga(barraHoriz_, &QScrollBar::valueChanged, [this](int v) { MudaBarraHoriz(p_, v); });
+
+    timer1_ = new QTimer(this);
+    timer1_->setObjectName(QStringLiteral("Timer1"));
+    timer1_->setInterval(500);
+    liga(timer1_, &QTimer::timeout, [this] { TickTimer1(p_); });
+
+    executaProtegido([this] { CarregaPrincipal(p_); });
+    resize(tw(11880) - 8, tw(8900) - tw(705));
+    sincroniza();
+    timer1_->start();
+}
+
+Sorvelo::~Sorvelo() = default;
+
+int Sorvelo::tw(int twips) const { return qRound(twips * dpi_ / 1440.0); }
+int Sorvelo::deTw(int pixels) const { return qRound(pixels * 1440.0 / dpi_); }
+
+template <typename F> void Sorvelo::age(F f) {
+    executaProtegido(f);
+    sincroniza();
+}
+
+template <typename S, typename Sinal, typename F> void Sorvelo::liga(S* emissor, Sinal sinal, F f) {
+    connect(emissor, sinal, this, [this, f](auto... args) {
+        if (sincronizando_) return;
+        age([&] {
+            if constexpr (std::is_invocable_v<const F&, decltype(args)...>) f(args...);
+            else f();
+        });
+    });
+}
+
+QWidget* Sorvelo::poe(QWidget* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
+    w->setParent(pai);
+    if (nome) w->setObjectName(QString::fromUtf8(nome));
+    w->setGeometry(tw(x), tw(y), tw(l), tw(a));
+    return w;
+}
+
+QLabel* Sorvelo::rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a) {
+    auto* r = new QLabel(texto, pai);
+    r->setGeometry(tw(x), tw(y), tw(l), tw(a));
+    r->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return r;
+}
+
+void Sorvelo::trocaJogo(const QString& nome) { TrocaLoteria(p_, nome); }
+
+void Sorvelo::montaMenus() {
+    auto menu = [this](const char* nome, const QString& titulo) {
+        QMenu* m = menuBar()->addMenu(titulo);
+        m->setObjectName(QString::fromUtf8(nome));
+        m->menuAction()->setObjectName(QString::fromUtf8(nome));
+        return m;
+    };
+    auto item = [this](QMenu* m, const char* nome, const QString& texto, auto acao) {
+        QAction* a = m->addAction(texto);
+        a->setObjectName(QString::fromUtf8(nome));
+        liga(a, &QAction::triggered, acao);
+        return a;
+    };
+    QMenu* arquivo = menu("MenuArquivo", QStringLiteral("&Arquivo"));
+    item(arquivo, "MenuNovo", QStringLiteral("Novo"), [] {});
+    item(arquivo, "MenuÄbrir", QStringLiteral("Abrir"), [] {});
+    item(arquivo, "MenuSalvar", QStringLiteral("Salvar"), [] {});
+    item(arquivo, "MenuSalvarComo", QStringLiteral("Salvar Como"), [] {});
+    arquivo->addSeparator()->setObjectName(QStringLiteral("Traco1"));
+    item(arquivo, "MenuImprimir", QStringLiteral("Imprimir"), [] {});
+    arquivo->addSeparator()->setObjectName(QStringLiteral("Traco2"));
+    QAction* sair = arquivo->addAction(QStringLiteral("Sair"));
+    sair->setObjectName(QStringLiteral("MenuSair"));
+    connect(sair, &QAction::triggered, this, &QWidget::close);
+
+    QMenu* loterias = menu("MenuLoterias", QStringLiteral("&Loterias"));
+    auto jogo = [&](const char* nome, int k) {
+        QAction* a = item(loterias, nome, jogos()[size_t(k)].nome, [this, k] { trocaJogo(jogos()[size_t(k)].nome); });
+        a->setCheckable(true);
+        return a;
+    };
+    menuMegaSena_ = jogo("MenuMegaSena", 0);
+    menuDuplaSena_ = jogo("MenuDuplaSena", 1);
+    menuQuina_ = jogo("MenuQuina", 2);
+    menuLotomania_ = jogo("MenuLotomania", 3);
+    menuLotoFacil_ = jogo("MenuLotoFacil", 4);
+
+    QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
+    item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"), [] {});
+    QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
+    item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
+    QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
+    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [] {});
+    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"), [] {});
+}
+
+void Sorvelo::montaBarra() {
+    barraSup_ = new QToolBar(area_);
+    barraSup_->setObjectName(QStringLiteral("BarraSup"));
+    barraSup_->setGeometry(0, 0, tw(11880), tw(600));
+    barraSup_->setIconSize(QSize(tw(21 * 15), tw(25 * 15)));
+    barraSup_->setMovable(false);
+    struct Botao {
+        Imagem imagem;
+        QString dica;
+        std::function<void()> acao;
+    };
+    const std::array<Botao, 10> botoes{{
+        {Imagem::Novo, QStringLiteral("Criar novo arquivo de jogos"), [] {}},
+        {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [] {}},
+        {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [] {}},
+        {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"), [] {}},
+        {Imagem::Novo, QString(), nullptr},
+        {Imagem::MegaSena, QStringLiteral("Seleciona Mega-Sena"), [this] { trocaJogo(jogos()[0].nome); }},
+        {Imagem::DuplaSena, QStringLiteral("Seleciona Dupla Sena"), [this] { trocaJogo(jogos()[1].nome); }},
+        {Imagem::Quina, QStringLiteral("Seleciona Quina"), [this] { trocaJogo(jogos()[2].nome); }},
+        {Imagem::Lotomania, QStringLiteral("Seleciona Lotomania"), [this] { trocaJogo(jogos()[3].nome); }},
+        {Imagem::LotoFacil, QStringLiteral("Seleciona Lotofácil"), [this] { trocaJogo(jogos()[4].nome); }},
+    }};
+    const qreal escala = dpi_ / 96.0;
+    for (size_t i = 0; i < botoes.size(); ++i) {
+        const QString nome = QStringLiteral("BarraSup(%1)").arg(i + 1);
+        if (!botoes[i].acao) {
+            barraSup_->addSeparator()->setObjectName(nome);
+            continue;
+        }
+        QAction* a = barraSup_->addAction(QIcon(desenhaImagem(botoes[i].imagem, escala)), botoes[i].dica);
+        a->setObjectName(nome);
+        a->setToolTip(botoes[i].dica);
+        if (QWidget* w = barraSup_->widgetForAction(a)) w->setObjectName(nome);
+        liga(a, &QAction::triggered, [f = botoes[i].acao] { f(); });
+    }
+    txtLoteria_ = static_cast<QLineEdit*>(poe(new QLineEdit, area_, "TxtLoteria", 6840, 60, 2595, 450));
+    QFont f(QStringLiteral("Arial"));
+    f.setBold(true);
+    f.setPointSize(12);
+    txtLoteria_->setFont(f);
+    txtLoteria_->setReadOnly(true);
+    txtLoteria_->setAlignment(Qt::AlignCenter);
+    txtLoteria_->setFocusPolicy(Qt::NoFocus);
+}
+
+void Sorvelo::montaQuadroNumeros() {
+    frame1_ = static_cast<QGroupBox*>(
+        poe(new QGroupBox(QStringLiteral("Escolha de números")), picLoteria_, "Frame1", 120, 120, 5655, 3855));
+    for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
+        auto* c = new CelulaNumero;
+        poe(c, frame1_, nullptr, 120 + 360 * (i % 15), 360 + 360 * (i / 15), 255, 255);
+        c->setObjectName(QStringLiteral("Num(%1)").arg(i));
+        num_[size_t(i)] = c;
+        liga(c, &CelulaNumero::clicked, [this, i] { ClicaNumero(p_, Int16(int16_t(i))); });
+    }
+    picSort1_ = static_cast<Figura*>(poe(new Figura, frame1_, "PicSort1", 240, 3000, 375, 375));
+    picSort1_->setToolTip(QStringLiteral("Sortear números para combinação"));
+    picSort1_->setMouseTracking(true);
+    liga(picSort1_, &Figura::movido, [this](int, int) { p_.tela.PicSort1Imagem = 2; });
+    liga(picSort1_, &Figura::pressionado, [this] {
+        p_.tela.PicSort1Left = 260;
+        p_.tela.PicSort1Top = 3020;
+    });
+    liga(picSort1_, &Figura::solto, [this] {
+        p_.tela.PicSort1Left = 240;
+        p_.tela.PicSort1Top = 3000;
+    });
+
+    rotulo(frame1_, QStringLiteral("Total escolhidos:"), 720, 3060, 1300, 255);
+    txtEscolhidos_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame1_, "TxtEscolhidos", 2040, 3000, 555, 315));
+    txtEscolhidos_->setReadOnly(true);
+    txtEscolhidos_->setAlignment(Qt::AlignCenter);
+    chkFixar_ = static_cast<QCheckBox*>(
+        poe(new QCheckBox(QStringLiteral("Fixar números")), frame1_, "ChkFixar", 2760, 3030, 1500, 255));
+    liga(chkFixar_, &QCheckBox::clicked, [this](bool v) { p_.tela.ChkFixar.Value = v; });
+    rotulo(frame1_, QStringLiteral("Valor da aposta:"), 720, 3450, 1300, 255);
+    txtValAp_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame1_, "TxtValAp", 2040, 3390, 855, 315));
+    liga(txtValAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtValAp.Text = t; });
+    auto* limpar = poe(new QPushButton(QStringLiteral("Limpar")), frame1_, "BtnLimpar", 4320, 3000, 1095, 375);
+    liga(static_cast<QPushButton*>(limpar), &QPushButton::clicked, [this] { BtnLimpar(p_); });
+
+    btnSeta_ = static_cast<Figura*>(poe(new Figura, picLoteria_, "BtnSeta", 5760, 1560, 375, 375));
+    btnSeta_->setPixmap(desenhaSeta(tw(375)));
+    btnSeta_->setCursor(Qt::PointingHandCursor);
+    liga(btnSeta_, &Figura::clicked, [this] { InsereApostaMarcada(p_); });
+}
+
+void Sorvelo::montaQuadroBanco() {
+    fraBanco_ = static_cast<QGroupBox*>(
+        poe(new QGroupBox(QStringLiteral("Banco de apostas")), picLoteria_, "FraBanco", 6120, 120, 5415, 4935));
+    txtBanco_ = static_cast<AreaRica*>(poe(new AreaRica, fraBanco_, "TxtBanco", 120, 240, 5055, 3255));
+    txtBanco_->defineDocumento(&p_.tela.TxtBanco);
+    rotulo(fraBanco_, QStringLiteral("Qtd. Apostas:"), 120, 3630, 1080, 255);
+    txtQuantApostas_ = static_cast<QLineEdit*>(poe(new QLineEdit, fraBanco_, "TxtQuantApostas", 1200, 3570, 1095, 315));
+    rotulo(fraBanco_, QStringLiteral("Valor Total:"), 2460, 3630, 960, 255);
+    txtValorApostas_ = static_cast<QLineEdit*>(poe(new QLineEdit, fraBanco_, "TxtValorApostas", 3420, 3570, 1335, 315));
+    for (QLineEdit* t : {txtQuantApostas_, txtValorApostas_}) {
+        t->setReadOnly(true);
+        t->setAlignment(Qt::AlignRight);
+    }
+    auto* limpaBanco = static_cast<QPushButton*>(
+        poe(new QPushButton(QStringLiteral("X")), fraBanco_, "BtnLimparBanco", 4860, 3570, 315, 315));
+    limpaBanco->setToolTip(QStringLiteral("Limpar o banco de apostas"));
+    liga(limpaBanco, &QPushButton::clicked, [this] { BtnLimparBanco(p_); });
+    poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar", 120, 4020, 2535, 375);
+    poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020, 2415, 375);
+    poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120, 4440, 2535, 375);
+    fraBanco_->setMouseTracking(true);
+    fraBanco_->installEventFilter(this);
+}
+
+void Sorvelo::montaQuadrosCombinacao() {
+    frame2_ = static_cast<QGroupBox*>(
+        poe(new QGroupBox(QStringLiteral("Combinações completas")), picLoteria_, "Frame2", 120, 4080, 5655, 1095));
+    rotulo(frame2_, QStringLiteral("Dezenas por aposta:"), 240, 450, 1560, 255);
+    txtDezAp_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame2_, "TxtDezAp", 1800, 390, 495, 315));
+    spbDezAp_ = static_cast<BotaoGiro*>(poe(new BotaoGiro, frame2_, "SpbDezAp", 2295, 390, 255, 315));
+    auto* iniciar = static_cast<QPushButton*>(poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")),
+                                                  frame2_, "BtnIniciar", 2760, 330, 2655, 435));
+    iniciar->setToolTip(QStringLiteral("Faz uma combinação para fazer o fechamento dos números escolhidos"));
+
+    frame5_ = static_cast<QGroupBox*>(
+        poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280, 5655, 1695));
+    rotulo(frame5_, QStringLiteral("Dezenas por aposta:"), 240, 390, 1560, 255);
+    txtDezAp2_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame5_, "TxtDezAp2", 1800, 330, 495, 315));
+    spbDezAp2_ = static_cast<BotaoGiro*>(poe(new BotaoGiro, frame5_, "SpbDezAp2", 2295, 330, 255, 315));
+    auto* reduz = static_cast<QPushButton*>(poe(new QPushButton(QStringLiteral("Iniciar Combinação reduzida")),
+                                                frame5_, "BtnReduz", 2760, 270, 2655, 435));
+    reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
+    rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
+    cmbGarantia_ = static_cast<QComboBox*>(poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315));
+    cmbGarantia_->setEditable(true);
+    cmbGarantia_->addItems(itensGarantia(20));
+    rotulo(frame5_, QStringLiteral("Se acertar"), 2640, 810, 840, 255);
+    cmbAcertar_ = static_cast<QComboBox*>(poe(new QComboBox, frame5_, "CmbAcertar", 3480, 750, 735, 315));
+    cmbAcertar_->setEditable(true);
+    for (int i = 2; i <= 20; ++i) cmbAcertar_->addItem(QString::number(i));
+    rotulo(frame5_, QStringLiteral("números dentro dos números escolhidos."), 240, 1140, 5000, 255);
+    chkReduzir_ = static_cast<QCheckBox*>(poe(new QCheckBox(QStringLiteral("Reduzir quant. de jogos ao mínimo possível")),
+                                              frame5_, "ChkReduzir", 240, 1380, 5000, 255));
+
+    liga(txtDezAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp.Text = t; });
+    liga(txtDezAp2_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp2.Text = t; });
+    liga(spbDezAp_, &BotaoGiro::valueChanged, [this](int v) {
+        // Failures of the spin buttons are skipped.
+        p_.tela.SpbDezAp.Value = v;
+        MudaSpin(p_.tela.SpbDezAp, p_.tela.TxtDezAp);
+        txtDezAp_->setFocus();
+    });
+    liga(spbDezAp2_, &BotaoGiro::valueChanged, [this](int v) {
+        p_.tela.SpbDezAp2.Value = v;
+        MudaSpin(p_.tela.SpbDezAp2, p_.tela.TxtDezAp2);
+        txtDezAp2_->setFocus();
+    });
+    liga(cmbGarantia_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
+    liga(cmbGarantia_, &QComboBox::activated, [this](int) {
+        p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
+        CliqueGarantia(p_);
+    });
+    liga(cmbAcertar_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbAcertar.Text = t; });
+    liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) {
+        p_.tela.ChkReduzir.Value = v;
+        p_.tela.CmbAcertar.Enabled = v;
+    });
+    for (QWidget* q : {static_cast<QWidget*>(frame2_), static_cast<QWidget*>(frame5_)}) {
+        q->setMouseTracking(true);
+        q->installEventFilter(this);
+    }
+    for (QWidget* b : {static_cast<QWidget*>(iniciar), static_cast<QWidget*>(reduz)}) {
+        b->setMouseTracking(true);
+        b->installEventFilter(this);
+    }
+}
+
+void Sorvelo::montaQuadroOpcoes() {
+    frame3_ = static_cast<QGroupBox*>(
+        poe(new QGroupBox(QStringLiteral("Outras opções")), picLoteria_, "Frame3", 6000, 5160, 5535, 1815));
+    rotulo(frame3_, QStringLiteral("Garantia de:"), 240, 330, 1000, 255);
+    cmbFecha_ = static_cast<QComboBox*>(poe(new QComboBox, frame3_, "CmbFecha", 1260, 270, 1215, 315));
+    cmbFecha_->setEditable(true);
+    cmbFecha_->addItems(itensGarantia(15));
+    liga(cmbFecha_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbFecha.Text = t; });
+    btnFechar_ = static_cast<QPushButton*>(
+        poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240, 2655, 375));
+    auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_, "BtnSortear",
+                        240, 600, 2535, 330);
+    auto* jogoAJogo =
+        poe(new QPushButton(QStringLiteral("Jogo a jogo")), frame3_, "CommandButton1", 2880, 600, 2415, 330);
+    auto* digitar = poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
+    poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar", 2880, 1080, 2415, 375);
+    Q_UNUSED(jogoAJogo);
+    frame3_->setMouseTracking(true);
+    frame3_->installEventFilter(this);
+    for (QWidget* b : {static_cast<QWidget*>(btnFechar_), sortear, digitar}) {
+        b->setMouseTracking(true);
+        b->installEventFilter(this);
+    }
+    frame1_->setMouseTracking(true);
+    frame1_->installEventFilter(this);
+}
+
+void Sorvelo::montaAjuda() {
+    struct Marca {
+        QWidget* quadro;
+        int x, y;
+    };
+    const std::array<Marca, 8> marcas{{{frame2_, 5400, 120},
+                                       {frame3_, 5280, 300},
+                                       {frame3_, 2640, 660},
+                                       {frame3_, 5280, 1500},
+                                       {fraBanco_, 2640, 4500},
+                                       {fraBanco_, 5160, 4080},
+                                       {frame5_, 5400, 120},
+                                       {frame1_, 5400, 120}}};
+    const QPixmap imagem = desenhaAjuda(tw(195));
+    for (size_t k = 0; k < marcas.size(); ++k) {
+        auto* f = new Figura;
+        poe(f, marcas[k].quadro, nullptr, marcas[k].x, marcas[k].y, 195, 195);
+        f->setObjectName(QStringLiteral("HelpRotina(%1)").arg(k));
+        f->setPixmap(imagem);
+        f->setToolTip(QStringLiteral("O que é isto?"));
+        f->hide();
+        helpRotina_[k] = f;
+        liga(f, &Figura::clicked, [this, k] { p_.e.TopicoHelp = Int16(int16_t(k)); });
+    }
+}
+
+void Sorvelo::sincroniza() {
+    sincronizando_ = true;
+    const auto& t = p_.tela;
+    const auto& e = p_.e;
+    Q_UNUSED(e);
+    for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
+        const Celula& c = t.celulas[size_t(i)];
+        num_[size_t(i)]->define(c.Text, qcor(c.BackColor), qcor(c.ForeColor));
+    }
+    poeTexto(txtEscolhidos_, t.TxtEscolhidos);
+    poeTexto(txtValAp_, t.TxtValAp);
+    poeTexto(txtDezAp_, t.TxtDezAp);
+    poeTexto(txtDezAp2_, t.TxtDezAp2);
+    poeTexto(txtLoteria_, t.TxtLoteria);
+    poeTexto(txtQuantApostas_, t.TxtQuantApostas);
+    poeTexto(txtValorApostas_, t.TxtValorApostas);
+    spbDezAp_->setValueSilencioso(t.SpbDezAp.Value);
+    spbDezAp2_->setValueSilencioso(t.SpbDezAp2.Value);
+    chkFixar_->setChecked(t.ChkFixar.Value);
+    chkReduzir_->setChecked(t.ChkReduzir.Value);
+    poeCombo(cmbFecha_, t.CmbFecha);
+    poeCombo(cmbGarantia_, t.CmbGarantia);
+    poeCombo(cmbAcertar_, t.CmbAcertar);
+    btnFechar_->setEnabled(t.BtnFecharEnabled);
+    menuMegaSena_->setChecked(t.MenuMegaSena);
+    menuDuplaSena_->setChecked(t.MenuDuplaSena);
+    menuQuina_->setChecked(t.MenuQuina);
+    menuLotomania_->setChecked(t.MenuLotomania);
+    menuLotoFacil_->setChecked(t.MenuLotoFacil);
+    if (windowTitle() != t.Caption) setWindowTitle(t.Caption);
+    txtBanco_->setVisible(t.TxtBanco.visivel());
+    txtBanco_->atualiza();
+    aplicaLayout();
+    for (size_t k = 0; k < helpRotina_.size(); ++k) helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
+    picSort1_->move(tw(t.PicSort1Left), tw(t.PicSort1Top));
+    picSort1_->setPixmap(desenhaDados(t.PicSort1Imagem, tw(375)));
+    if (barraVert_->value() != t.BarraVert.Value) barraVert_->setValue(t.BarraVert.Value);
+    if (barraHoriz_->value() != t.BarraHoriz.Value) barraHoriz_->setValue(t.BarraHoriz.Value);
+    sincronizando_ = false;
+}
+
+void Sorvelo::aplicaLayout() {
+    const auto& t = p_.tela;
+    picLoteria_->move(tw(t.PicLoteriaLeft), tw(t.PicLoteriaTop));
+    if (t.BarraVert.Height > 0) {
+        barraVert_->setGeometry(tw(t.BarraVert.Left), tw(600), tw(255), tw(t.BarraVert.Height));
+        barraHoriz_->setGeometry(0, tw(t.BarraHoriz.Top), tw(t.BarraHoriz.Width), tw(255));
+    }
+    barraVert_->raise();
+    barraHoriz_->raise();
+    barraSup_->raise();
+    txtLoteria_->raise();
+}
+
+void Sorvelo::resizeEvent(QResizeEvent* e) {
+    QMainWindow::resizeEvent(e);
+    if (!area_ || !barraVert_) return;
+    // The outer size as the original measures it: the work area plus the
+    // borders, the title and the menu.
+    const int largura = deTw(area_->width()) + 120;
+    const int altura = deTw(area_->height()) + 705;
+    age([&] { Redimensiona(p_, largura, altura); });
+}
+
+bool Sorvelo::eventFilter(QObject* alvo, QEvent* e) {
+    if (e->type() == QEvent::MouseMove) {
+        const QPoint pos = static_cast<QMouseEvent*>(e)->position().toPoint();
+        const int x = deTw(pos.x()), y = deTw(pos.y());
+        const QString nome = alvo->objectName();
+        static const QHash<QString, Regiao> regioes = {
+            {QStringLiteral("Frame1"), Regiao::Frame1},         {QStringLiteral("Frame2"), Regiao::Frame2},
+            {QStringLiteral("Frame3"), Regiao::Frame3},         {QStringLiteral("Frame5"), Regiao::Frame5},
+            {QStringLiteral("FraBanco"), Regiao::FraBanco},     {QStringLiteral("BtnIniciar"), Regiao::BtnIniciar},
+            {QStringLiteral("BtnFechar"), Regiao::BtnFechar},   {QStringLiteral("BtnSortear"), Regiao::BtnSortear},
+            {QStringLiteral("BtnDigitar"), Regiao::BtnDigitar}, {QStringLiteral("BtnReduz"), Regiao::BtnReduz}};
+        auto it = regioes.find(nome);
+        if (it != regioes.end()) age([&] { MovimentoMouse(p_, it.value(), x, y); });
+    } else if (e->type() == QEvent::MouseButtonPress && alvo == picLoteria_) {
+        age([&] { EscondeAjuda(p_); });
+    }
+    return QMainWindow::eventFilter(alvo, e);
+}
+
+void Sorvelo::closeEvent(QCloseEvent* e) {
+    if (!fechado_) {
+        fechado_ = true;
+        timer1_->stop();
+        age([this] { FechaPrincipal(p_); });
+        emit encerrado();
+    }
+    e->accept();
+}
+
+} // namespace sorvelo
