@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything with AddressSanitizer and
+# UndefinedBehaviorSanitizer, warnings as errors, and runs every test.
+set -euo pipefail
+raiz="$(cd "$(dirname "$0")/.." && pwd)"
+bash "$raiz/scripts/instala-dependencias.sh"
+build="$raiz/build-testes"
+cmake -S "$raiz" -B "$build" -DCMAKE_BUILD_TYPE=Debug -DSORVELO_SANITIZERS=ON -DSORVELO_WERROR=ON
+cmake --build "$build" -j "$(nproc)"
+export QT_QPA_PLATFORM=offscreen
+export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:strict_string_checks=1"
+export LSAN_OPTIONS="suppressions=$raiz/tests/lsan.supp:print_suppressions=0"
+export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
+cd "$build"
+ctest --output-on-failure -j "$(nproc)" --timeout 600
