@@ -48,7 +48,8 @@ QPixmap desenhaImagem(Imagem qual, qreal escala) {
         g.drawLine(QPointF(13, 3), QPointF(13, 7));
         g.drawLine(QPointF(13, 7), QPointF(17, 7));
         g.setPen(QPen(QColor(0, 150, 0), 1));
-        for (int y = 11; y <= 19; y += 3) g.drawLine(QPointF(6.5, y), QPointF(14.5, y));
+        for (int y = 11; y <= 19; y += 3)
+            g.drawLine(QPointF(6.5, y), QPointF(14.5, y));
         break;
     }
     case Imagem::Abrir:
@@ -80,11 +81,21 @@ QPixmap desenhaImagem(Imagem qual, qreal escala) {
         g.drawLine(QPointF(7.5, 17), QPointF(13.5, 17));
         g.drawLine(QPointF(7.5, 19.5), QPointF(13.5, 19.5));
         break;
-    case Imagem::MegaSena: bola(g, QColor(0, 140, 60), QStringLiteral("M")); break;
-    case Imagem::DuplaSena: bola(g, QColor(170, 30, 40), QStringLiteral("D")); break;
-    case Imagem::Quina: bola(g, QColor(70, 40, 150), QStringLiteral("Q")); break;
-    case Imagem::Lotomania: bola(g, QColor(230, 120, 0), QStringLiteral("LM")); break;
-    case Imagem::LotoFacil: bola(g, QColor(150, 20, 130), QStringLiteral("LF")); break;
+    case Imagem::MegaSena:
+        bola(g, QColor(0, 140, 60), QStringLiteral("M"));
+        break;
+    case Imagem::DuplaSena:
+        bola(g, QColor(170, 30, 40), QStringLiteral("D"));
+        break;
+    case Imagem::Quina:
+        bola(g, QColor(70, 40, 150), QStringLiteral("Q"));
+        break;
+    case Imagem::Lotomania:
+        bola(g, QColor(230, 120, 0), QStringLiteral("LM"));
+        break;
+    case Imagem::LotoFacil:
+        bola(g, QColor(150, 20, 130), QStringLiteral("LF"));
+        break;
     }
     return p;
 }
@@ -126,7 +137,8 @@ QPixmap desenhaDados(int estado, int lado) {
         g.drawRoundedRect(r, 2, 2);
         g.setBrush(QColor(200, 0, 0));
         g.setPen(Qt::NoPen);
-        for (QPointF q : pontos) g.drawEllipse(QPointF(r.x() + q.x(), r.y() + q.y()), 1.3, 1.3);
+        for (QPointF q : pontos)
+            g.drawEllipse(QPointF(r.x() + q.x(), r.y() + q.y()), 1.3, 1.3);
     };
     dado(QRectF(1.5, 1.5, 12, 12), {{3, 3}, {6, 6}, {9, 9}});
     dado(QRectF(11.5, 11.5, 12, 12), {{3, 3}, {9, 3}, {3, 9}, {9, 9}});
@@ -152,7 +164,8 @@ QPixmap desenhaAjuda(int lado) {
 
 QIcon iconePrograma() {
     QIcon i;
-    for (int lado : {16, 32, 48}) i.addPixmap(desenhaSeta(lado));
+    for (int lado : {16, 32, 48})
+        i.addPixmap(desenhaSeta(lado));
     return i;
 }
 

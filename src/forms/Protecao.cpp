@@ -15,13 +15,18 @@ TratadorFalha& tratador() {
 }
 } // namespace
 
-void defineTratadorFalha(TratadorFalha t) { tratador() = t ? std::move(t) : TratadorFalha(tratadorPadrao); }
+void defineTratadorFalha(TratadorFalha t) {
+    tratador() = t ? std::move(t) : TratadorFalha(tratadorPadrao);
+}
 
-void trataFalha(const FalhaExecucao& f) { tratador()(f); }
+void trataFalha(const FalhaExecucao& f) {
+    tratador()(f);
+}
 
 void tratadorPadrao(const FalhaExecucao& f) {
     if (qApp) {
-        QMessageBox caixa(QMessageBox::Critical, QStringLiteral("Sorvelo"), mensagemFalha(f), QMessageBox::Ok);
+        QMessageBox caixa(QMessageBox::Critical, QStringLiteral("Sorvelo"), mensagemFalha(f),
+                          QMessageBox::Ok);
         EmModal modal;
         caixa.exec();
     } else {

@@ -26,7 +26,9 @@
 namespace sorvelo {
 
 namespace {
-QColor qcor(Cor c) { return QColor(vermelho(c), verde(c), azul(c)); }
+QColor qcor(Cor c) {
+    return QColor(vermelho(c), verde(c), azul(c));
+}
 
 // Sets a text box's text from the model, leaving it alone when equal (so
 // that the caret of a person typing does not jump).
@@ -41,16 +43,16 @@ void poeCombo(QComboBox* w, const Combo& c) {
 QStringList itensGarantia(int ate) {
     QStringList l = {QStringLiteral("Duque"), QStringLiteral("Terno"), QStringLiteral("Quadra"),
                      QStringLiteral("Quina"), QStringLiteral("Sena")};
-    for (int i = 7; i <= ate; ++i) l << QString::number(i);
+    for (int i = 7; i <= ate; ++i)
+        l << QString::number(i);
     return l;
 }
 } // namespace
 
-Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p) {
+Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(this) {
     setObjectName(QStringLiteral("Sorvelo"));
     setProperty("sorvelo_forma", true);
     setWindowIcon(iconePrograma());
-    if (const QScreen* tela = screen()) dpi_ = tela->logicalDotsPerInchX();
     QFont fonte(QStringLiteral("Arial"));
     fonte.setPointSize(8);
     setFont(fonte);
@@ -71,9 +73,8 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p) {
     montaQuadroOpcoes();
     montaAjuda();
 
-    barraVert_ = static_cast<QScrollBar*>(poe(new QScrollBar(Qt::Vertical), area_, "BarraVert", 11520, 600, 255, 2295));
-    barraHoriz_ =
-        static_cast<QScrollBar*>(poe(new QScrollBar(Qt::Horizontal), area_, "BarraHoriz", 0, 7800, 2295, 255));
+    barraVert_ = poe(new QScrollBar(Qt::Vertical), area_, "BarraVert", 11520, 600, 255, 2295);
+    barraHoriz_ = poe(new QScrollBar(Qt::Horizontal), area_, "BarraHoriz", 0, 7800, 2295, 255);
     for (QScrollBar* b : {barraVert_, barraHoriz_}) {
         b->setRange(1, 100);
         b->setValue(1);
@@ -96,39 +97,14 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p) {
 
 Sorvelo::~Sorvelo() = default;
 
-int Sorvelo::tw(int twips) const { return qRound(twips * dpi_ / 1440.0); }
-int Sorvelo::deTw(int pixels) const { return qRound(pixels * 1440.0 / dpi_); }
-
 template <typename F> void Sorvelo::age(F f) {
     executaProtegido(f);
     sincroniza();
 }
 
-template <typename S, typename Sinal, typename F> void Sorvelo::liga(S* emissor, Sinal sinal, F f) {
-    connect(emissor, sinal, this, [this, f](auto... args) {
-        if (sincronizando_) return;
-        age([&] {
-            if constexpr (std::is_invocable_v<const F&, decltype(args)...>) f(args...);
-            else f();
-        });
-    });
+void Sorvelo::trocaJogo(const QString& nome) {
+    TrocaLoteria(p_, nome);
 }
-
-QWidget* Sorvelo::poe(QWidget* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
-    w->setParent(pai);
-    if (nome) w->setObjectName(QString::fromUtf8(nome));
-    w->setGeometry(tw(x), tw(y), tw(l), tw(a));
-    return w;
-}
-
-QLabel* Sorvelo::rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a) {
-    auto* r = new QLabel(texto, pai);
-    r->setGeometry(tw(x), tw(y), tw(l), tw(a));
-    r->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return r;
-}
-
-void Sorvelo::trocaJogo(const QString& nome) { TrocaLoteria(p_, nome); }
 
 void Sorvelo::montaMenus() {
     auto menu = [this](const char* nome, const QString& titulo) {
@@ -157,7 +133,8 @@ void Sorvelo::montaMenus() {
 
     QMenu* loterias = menu("MenuLoterias", QStringLiteral("&Loterias"));
     auto jogo = [&](const char* nome, int k) {
-        QAction* a = item(loterias, nome, jogos()[size_t(k)].nome, [this, k] { trocaJogo(jogos()[size_t(k)].nome); });
+        QAction* a =
+            item(loterias, nome, jogos()[size_t(k)].nome, [this, k] { trocaJogo(jogos()[size_t(k)].nome); });
         a->setCheckable(true);
         return a;
     };
@@ -199,7 +176,7 @@ void Sorvelo::montaBarra() {
         {Imagem::Lotomania, QStringLiteral("Seleciona Lotomania"), [this] { trocaJogo(jogos()[3].nome); }},
         {Imagem::LotoFacil, QStringLiteral("Seleciona Lotofácil"), [this] { trocaJogo(jogos()[4].nome); }},
     }};
-    const qreal escala = dpi_ / 96.0;
+    const qreal escala = escala_.dpi() / 96.0;
     for (size_t i = 0; i < botoes.size(); ++i) {
         const QString nome = QStringLiteral("BarraSup(%1)").arg(i + 1);
         if (!botoes[i].acao) {
@@ -212,7 +189,7 @@ void Sorvelo::montaBarra() {
         if (QWidget* w = barraSup_->widgetForAction(a)) w->setObjectName(nome);
         liga(a, &QAction::triggered, [f = botoes[i].acao] { f(); });
     }
-    txtLoteria_ = static_cast<QLineEdit*>(poe(new QLineEdit, area_, "TxtLoteria", 6840, 60, 2595, 450));
+    txtLoteria_ = poe(new QLineEdit, area_, "TxtLoteria", 6840, 60, 2595, 450);
     QFont f(QStringLiteral("Arial"));
     f.setBold(true);
     f.setPointSize(12);
@@ -223,8 +200,8 @@ void Sorvelo::montaBarra() {
 }
 
 void Sorvelo::montaQuadroNumeros() {
-    frame1_ = static_cast<QGroupBox*>(
-        poe(new QGroupBox(QStringLiteral("Escolha de números")), picLoteria_, "Frame1", 120, 120, 5655, 3855));
+    frame1_ =
+        poe(new QGroupBox(QStringLiteral("Escolha de números")), picLoteria_, "Frame1", 120, 120, 5655, 3855);
     for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
         auto* c = new CelulaNumero;
         poe(c, frame1_, nullptr, 120 + 360 * (i % 15), 360 + 360 * (i / 15), 255, 255);
@@ -232,7 +209,7 @@ void Sorvelo::montaQuadroNumeros() {
         num_[size_t(i)] = c;
         liga(c, &CelulaNumero::clicked, [this, i] { ClicaNumero(p_, Int16(int16_t(i))); });
     }
-    picSort1_ = static_cast<Figura*>(poe(new Figura, frame1_, "PicSort1", 240, 3000, 375, 375));
+    picSort1_ = poe(new Figura, frame1_, "PicSort1", 240, 3000, 375, 375);
     picSort1_->setToolTip(QStringLiteral("Sortear números para combinação"));
     picSort1_->setMouseTracking(true);
     liga(picSort1_, &Figura::movido, [this](int, int) { p_.tela.PicSort1Imagem = 2; });
@@ -246,77 +223,81 @@ void Sorvelo::montaQuadroNumeros() {
     });
 
     rotulo(frame1_, QStringLiteral("Total escolhidos:"), 720, 3060, 1300, 255);
-    txtEscolhidos_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame1_, "TxtEscolhidos", 2040, 3000, 555, 315));
+    txtEscolhidos_ = poe(new QLineEdit, frame1_, "TxtEscolhidos", 2040, 3000, 555, 315);
     txtEscolhidos_->setReadOnly(true);
     txtEscolhidos_->setAlignment(Qt::AlignCenter);
-    chkFixar_ = static_cast<QCheckBox*>(
-        poe(new QCheckBox(QStringLiteral("Fixar números")), frame1_, "ChkFixar", 2760, 3030, 1500, 255));
+    chkFixar_ =
+        poe(new QCheckBox(QStringLiteral("Fixar números")), frame1_, "ChkFixar", 2760, 3030, 1500, 255);
     liga(chkFixar_, &QCheckBox::clicked, [this](bool v) { p_.tela.ChkFixar.Value = v; });
     rotulo(frame1_, QStringLiteral("Valor da aposta:"), 720, 3450, 1300, 255);
-    txtValAp_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame1_, "TxtValAp", 2040, 3390, 855, 315));
+    txtValAp_ = poe(new QLineEdit, frame1_, "TxtValAp", 2040, 3390, 855, 315);
     liga(txtValAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtValAp.Text = t; });
-    auto* limpar = poe(new QPushButton(QStringLiteral("Limpar")), frame1_, "BtnLimpar", 4320, 3000, 1095, 375);
+    auto* limpar =
+        poe(new QPushButton(QStringLiteral("Limpar")), frame1_, "BtnLimpar", 4320, 3000, 1095, 375);
     liga(static_cast<QPushButton*>(limpar), &QPushButton::clicked, [this] { BtnLimpar(p_); });
 
-    btnSeta_ = static_cast<Figura*>(poe(new Figura, picLoteria_, "BtnSeta", 5760, 1560, 375, 375));
+    btnSeta_ = poe(new Figura, picLoteria_, "BtnSeta", 5760, 1560, 375, 375);
     btnSeta_->setPixmap(desenhaSeta(tw(375)));
     btnSeta_->setCursor(Qt::PointingHandCursor);
     liga(btnSeta_, &Figura::clicked, [this] { InsereApostaMarcada(p_); });
 }
 
 void Sorvelo::montaQuadroBanco() {
-    fraBanco_ = static_cast<QGroupBox*>(
-        poe(new QGroupBox(QStringLiteral("Banco de apostas")), picLoteria_, "FraBanco", 6120, 120, 5415, 4935));
-    txtBanco_ = static_cast<AreaRica*>(poe(new AreaRica, fraBanco_, "TxtBanco", 120, 240, 5055, 3255));
+    fraBanco_ = poe(new QGroupBox(QStringLiteral("Banco de apostas")), picLoteria_, "FraBanco", 6120, 120,
+                    5415, 4935);
+    txtBanco_ = poe(new AreaRica, fraBanco_, "TxtBanco", 120, 240, 5055, 3255);
     txtBanco_->defineDocumento(&p_.tela.TxtBanco);
     rotulo(fraBanco_, QStringLiteral("Qtd. Apostas:"), 120, 3630, 1080, 255);
-    txtQuantApostas_ = static_cast<QLineEdit*>(poe(new QLineEdit, fraBanco_, "TxtQuantApostas", 1200, 3570, 1095, 315));
+    txtQuantApostas_ = poe(new QLineEdit, fraBanco_, "TxtQuantApostas", 1200, 3570, 1095, 315);
     rotulo(fraBanco_, QStringLiteral("Valor Total:"), 2460, 3630, 960, 255);
-    txtValorApostas_ = static_cast<QLineEdit*>(poe(new QLineEdit, fraBanco_, "TxtValorApostas", 3420, 3570, 1335, 315));
+    txtValorApostas_ = poe(new QLineEdit, fraBanco_, "TxtValorApostas", 3420, 3570, 1335, 315);
     for (QLineEdit* t : {txtQuantApostas_, txtValorApostas_}) {
         t->setReadOnly(true);
         t->setAlignment(Qt::AlignRight);
     }
-    auto* limpaBanco = static_cast<QPushButton*>(
-        poe(new QPushButton(QStringLiteral("X")), fraBanco_, "BtnLimparBanco", 4860, 3570, 315, 315));
+    auto* limpaBanco =
+        poe(new QPushButton(QStringLiteral("X")), fraBanco_, "BtnLimparBanco", 4860, 3570, 315, 315);
     limpaBanco->setToolTip(QStringLiteral("Limpar o banco de apostas"));
     liga(limpaBanco, &QPushButton::clicked, [this] { BtnLimparBanco(p_); });
-    poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar", 120, 4020, 2535, 375);
-    poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020, 2415, 375);
+    poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar", 120, 4020, 2535,
+        375);
+    poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
+        2415, 375);
     poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120, 4440, 2535, 375);
     fraBanco_->setMouseTracking(true);
     fraBanco_->installEventFilter(this);
 }
 
 void Sorvelo::montaQuadrosCombinacao() {
-    frame2_ = static_cast<QGroupBox*>(
-        poe(new QGroupBox(QStringLiteral("Combinações completas")), picLoteria_, "Frame2", 120, 4080, 5655, 1095));
+    frame2_ = poe(new QGroupBox(QStringLiteral("Combinações completas")), picLoteria_, "Frame2", 120, 4080,
+                  5655, 1095);
     rotulo(frame2_, QStringLiteral("Dezenas por aposta:"), 240, 450, 1560, 255);
-    txtDezAp_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame2_, "TxtDezAp", 1800, 390, 495, 315));
-    spbDezAp_ = static_cast<BotaoGiro*>(poe(new BotaoGiro, frame2_, "SpbDezAp", 2295, 390, 255, 315));
-    auto* iniciar = static_cast<QPushButton*>(poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")),
-                                                  frame2_, "BtnIniciar", 2760, 330, 2655, 435));
+    txtDezAp_ = poe(new QLineEdit, frame2_, "TxtDezAp", 1800, 390, 495, 315);
+    spbDezAp_ = poe(new BotaoGiro, frame2_, "SpbDezAp", 2295, 390, 255, 315);
+    auto* iniciar = poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")), frame2_, "BtnIniciar",
+                        2760, 330, 2655, 435);
     iniciar->setToolTip(QStringLiteral("Faz uma combinação para fazer o fechamento dos números escolhidos"));
 
-    frame5_ = static_cast<QGroupBox*>(
-        poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280, 5655, 1695));
+    frame5_ = poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280,
+                  5655, 1695);
     rotulo(frame5_, QStringLiteral("Dezenas por aposta:"), 240, 390, 1560, 255);
-    txtDezAp2_ = static_cast<QLineEdit*>(poe(new QLineEdit, frame5_, "TxtDezAp2", 1800, 330, 495, 315));
-    spbDezAp2_ = static_cast<BotaoGiro*>(poe(new BotaoGiro, frame5_, "SpbDezAp2", 2295, 330, 255, 315));
-    auto* reduz = static_cast<QPushButton*>(poe(new QPushButton(QStringLiteral("Iniciar Combinação reduzida")),
-                                                frame5_, "BtnReduz", 2760, 270, 2655, 435));
+    txtDezAp2_ = poe(new QLineEdit, frame5_, "TxtDezAp2", 1800, 330, 495, 315);
+    spbDezAp2_ = poe(new BotaoGiro, frame5_, "SpbDezAp2", 2295, 330, 255, 315);
+    auto* reduz = poe(new QPushButton(QStringLiteral("Iniciar Combinação reduzida")), frame5_, "BtnReduz",
+                      2760, 270, 2655, 435);
     reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
     rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
-    cmbGarantia_ = static_cast<QComboBox*>(poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315));
+    cmbGarantia_ = poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
     cmbGarantia_->setEditable(true);
     cmbGarantia_->addItems(itensGarantia(20));
     rotulo(frame5_, QStringLiteral("Se acertar"), 2640, 810, 840, 255);
-    cmbAcertar_ = static_cast<QComboBox*>(poe(new QComboBox, frame5_, "CmbAcertar", 3480, 750, 735, 315));
+    cmbAcertar_ = poe(new QComboBox, frame5_, "CmbAcertar", 3480, 750, 735, 315);
     cmbAcertar_->setEditable(true);
-    for (int i = 2; i <= 20; ++i) cmbAcertar_->addItem(QString::number(i));
+    for (int i = 2; i <= 20; ++i)
+        cmbAcertar_->addItem(QString::number(i));
     rotulo(frame5_, QStringLiteral("números dentro dos números escolhidos."), 240, 1140, 5000, 255);
-    chkReduzir_ = static_cast<QCheckBox*>(poe(new QCheckBox(QStringLiteral("Reduzir quant. de jogos ao mínimo possível")),
-                                              frame5_, "ChkReduzir", 240, 1380, 5000, 255));
+    chkReduzir_ = poe(new QCheckBox(QStringLiteral("Reduzir quant. de jogos ao mínimo possível")), frame5_,
+                      "ChkReduzir", 240, 1380, 5000, 255);
 
     liga(txtDezAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp.Text = t; });
     liga(txtDezAp2_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp2.Text = t; });
@@ -331,7 +312,8 @@ void Sorvelo::montaQuadrosCombinacao() {
         MudaSpin(p_.tela.SpbDezAp2, p_.tela.TxtDezAp2);
         txtDezAp2_->setFocus();
     });
-    liga(cmbGarantia_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
+    liga(cmbGarantia_, &QComboBox::editTextChanged,
+         [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
     liga(cmbGarantia_, &QComboBox::activated, [this](int) {
         p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
         CliqueGarantia(p_);
@@ -352,25 +334,28 @@ void Sorvelo::montaQuadrosCombinacao() {
 }
 
 void Sorvelo::montaQuadroOpcoes() {
-    frame3_ = static_cast<QGroupBox*>(
-        poe(new QGroupBox(QStringLiteral("Outras opções")), picLoteria_, "Frame3", 6000, 5160, 5535, 1815));
+    frame3_ =
+        poe(new QGroupBox(QStringLiteral("Outras opções")), picLoteria_, "Frame3", 6000, 5160, 5535, 1815);
     rotulo(frame3_, QStringLiteral("Garantia de:"), 240, 330, 1000, 255);
-    cmbFecha_ = static_cast<QComboBox*>(poe(new QComboBox, frame3_, "CmbFecha", 1260, 270, 1215, 315));
+    cmbFecha_ = poe(new QComboBox, frame3_, "CmbFecha", 1260, 270, 1215, 315);
     cmbFecha_->setEditable(true);
     cmbFecha_->addItems(itensGarantia(15));
     liga(cmbFecha_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbFecha.Text = t; });
-    btnFechar_ = static_cast<QPushButton*>(
-        poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240, 2655, 375));
-    auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_, "BtnSortear",
-                        240, 600, 2535, 330);
+    btnFechar_ = poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240,
+                     2655, 375);
+    auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_,
+                        "BtnSortear", 240, 600, 2535, 330);
     auto* jogoAJogo =
         poe(new QPushButton(QStringLiteral("Jogo a jogo")), frame3_, "CommandButton1", 2880, 600, 2415, 330);
-    auto* digitar = poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
-    poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar", 2880, 1080, 2415, 375);
+    auto* digitar =
+        poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
+    poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar", 2880, 1080, 2415,
+        375);
     Q_UNUSED(jogoAJogo);
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);
-    for (QWidget* b : {static_cast<QWidget*>(btnFechar_), sortear, digitar}) {
+    for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),
+                       static_cast<QWidget*>(digitar)}) {
         b->setMouseTracking(true);
         b->installEventFilter(this);
     }
@@ -437,7 +422,8 @@ void Sorvelo::sincroniza() {
     txtBanco_->setVisible(t.TxtBanco.visivel());
     txtBanco_->atualiza();
     aplicaLayout();
-    for (size_t k = 0; k < helpRotina_.size(); ++k) helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
+    for (size_t k = 0; k < helpRotina_.size(); ++k)
+        helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
     picSort1_->move(tw(t.PicSort1Left), tw(t.PicSort1Top));
     picSort1_->setPixmap(desenhaDados(t.PicSort1Imagem, tw(375)));
     if (barraVert_->value() != t.BarraVert.Value) barraVert_->setValue(t.BarraVert.Value);
@@ -473,12 +459,16 @@ bool Sorvelo::eventFilter(QObject* alvo, QEvent* e) {
         const QPoint pos = static_cast<QMouseEvent*>(e)->position().toPoint();
         const int x = deTw(pos.x()), y = deTw(pos.y());
         const QString nome = alvo->objectName();
-        static const QHash<QString, Regiao> regioes = {
-            {QStringLiteral("Frame1"), Regiao::Frame1},         {QStringLiteral("Frame2"), Regiao::Frame2},
-            {QStringLiteral("Frame3"), Regiao::Frame3},         {QStringLiteral("Frame5"), Regiao::Frame5},
-            {QStringLiteral("FraBanco"), Regiao::FraBanco},     {QStringLiteral("BtnIniciar"), Regiao::BtnIniciar},
-            {QStringLiteral("BtnFechar"), Regiao::BtnFechar},   {QStringLiteral("BtnSortear"), Regiao::BtnSortear},
-            {QStringLiteral("BtnDigitar"), Regiao::BtnDigitar}, {QStringLiteral("BtnReduz"), Regiao::BtnReduz}};
+        static const QHash<QString, Regiao> regioes = {{QStringLiteral("Frame1"), Regiao::Frame1},
+                                                       {QStringLiteral("Frame2"), Regiao::Frame2},
+                                                       {QStringLiteral("Frame3"), Regiao::Frame3},
+                                                       {QStringLiteral("Frame5"), Regiao::Frame5},
+                                                       {QStringLiteral("FraBanco"), Regiao::FraBanco},
+                                                       {QStringLiteral("BtnIniciar"), Regiao::BtnIniciar},
+                                                       {QStringLiteral("BtnFechar"), Regiao::BtnFechar},
+                                                       {QStringLiteral("BtnSortear"), Regiao::BtnSortear},
+                                                       {QStringLiteral("BtnDigitar"), Regiao::BtnDigitar},
+                                                       {QStringLiteral("BtnReduz"), Regiao::BtnReduz}};
         auto it = regioes.find(nome);
         if (it != regioes.end()) age([&] { MovimentoMouse(p_, it.value(), x, y); });
     } else if (e->type() == QEvent::MouseButtonPress && alvo == picLoteria_) {

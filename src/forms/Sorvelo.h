@@ -3,6 +3,7 @@
 // in src/core and mirrors the logic's model of its controls.
 #pragma once
 
+#include "Montagem.h"
 #include "core/Estado.h"
 
 #include <QMainWindow>
@@ -29,7 +30,7 @@ class Figura;
 
 class Sorvelo : public QMainWindow {
     Q_OBJECT
-public:
+  public:
     // Runs the form's load on the program's state.
     explicit Sorvelo(Programa& p, QWidget* pai = nullptr);
     ~Sorvelo() override;
@@ -38,19 +39,19 @@ public:
     // The logic's model of the controls onto the widgets.
     void sincroniza();
     // Twips to pixels at this screen's resolution (15 twips a pixel at 96 DPI).
-    int tw(int twips) const;
-    int deTw(int pixels) const;
+    int tw(int twips) const { return escala_.tw(twips); }
+    int deTw(int pixels) const { return escala_.deTw(pixels); }
 
-signals:
+  signals:
     // The close flow ran: the program ends.
     void encerrado();
 
-protected:
+  protected:
     void closeEvent(QCloseEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
-private:
+  private:
     void montaMenus();
     void montaBarra();
     void montaQuadroNumeros();
@@ -60,20 +61,28 @@ private:
     void montaAjuda();
     // Runs a handler of the form: failures to the top, then the screen.
     template <typename F> void age(F f);
-    template <typename S, typename Sinal, typename F> void liga(S* emissor, Sinal sinal, F f);
-    QWidget* poe(QWidget* w, QWidget* pai, const char* nome, int x, int y, int l, int a);
-    QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a);
+    template <typename S, typename Sinal, typename F> void liga(S* emissor, Sinal sinal, F f) {
+        ligaProtegido(
+            this, emissor, sinal, &sincronizando_, [this] { sincroniza(); }, std::move(f));
+    }
+    template <typename W> W* poe(W* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
+        return escala_.poe(w, pai, nome, x, y, l, a);
+    }
+    QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a) {
+        return escala_.rotulo(pai, texto, x, y, l, a);
+    }
     void trocaJogo(const QString& nome);
     void aplicaLayout();
 
     Programa& p_;
-    double dpi_ = 96;
+    Escala escala_;
     QWidget* area_ = nullptr;
     QToolBar* barraSup_ = nullptr;
     QLineEdit* txtLoteria_ = nullptr;
     QScrollBar *barraVert_ = nullptr, *barraHoriz_ = nullptr;
     QWidget* picLoteria_ = nullptr;
-    QGroupBox *frame1_ = nullptr, *fraBanco_ = nullptr, *frame2_ = nullptr, *frame5_ = nullptr, *frame3_ = nullptr;
+    QGroupBox *frame1_ = nullptr, *fraBanco_ = nullptr, *frame2_ = nullptr, *frame5_ = nullptr,
+              *frame3_ = nullptr;
     std::array<CelulaNumero*, TelaPrincipal::QuantCelulas> num_{};
     Figura* btnSeta_ = nullptr;
     Figura* picSort1_ = nullptr;
