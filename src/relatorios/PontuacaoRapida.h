@@ -72,7 +72,8 @@ class IndiceApostas {
 class PontuadorBanco {
   public:
     enum class Sorteio { Resultado, Teste }; // VetDezenas, VetDezenas2
-    // The draw is taken as it stands now.
+    // Neither the bank nor the draw may change while it is in use: a block
+    // of scores is computed ahead.
     PontuadorBanco(const Programa& p, Sorteio qual);
     Int16 pontos(Int32 Index) {
         const int64_t i = Index.valor();
