@@ -48,6 +48,15 @@ public:
     // (the whole stored row when it has none), as codes; Outro cells are
     // read with valor().
     const uint8_t* celulas(int64_t linha, int& quant) const;
+    // All stored cells of the row, without looking for the "#" (the cells
+    // from `quant` to the last column are empty), for scans that stop at
+    // the "#" themselves.
+    const uint8_t* celulasGuardadas(int64_t linha, int& quant) const {
+        if (!temLimites_ || linha < 0 || linha >= int64_t(linhas_.size())) foraDoIntervalo();
+        const Linha& l = linhas_[size_t(linha)];
+        quant = l.tamanho;
+        return celulas_.data() + l.inicio;
+    }
 
     // Bytes held by the store (for the memory budget).
     size_t bytesUsados() const;

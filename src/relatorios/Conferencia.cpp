@@ -1,0 +1,115 @@
+#include "Conferencia.h"
+
+#include "../core/BancoApostas.h"
+#include "../core/Grade.h"
+#include "Pontuacao.h"
+#include "PontuacaoRapida.h"
+
+namespace sorvelo {
+
+void EscreveRTF(DocumentoRico& RTFConf, const QString& S, bool Bold) {
+    RTFConf.acrescenta(S, CorLog, Bold);
+}
+
+void InsereRTF(const Programa& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos) {
+    QString linha = formata(int64_t(X.valor()) + 1, 5);
+    linha += QStringLiteral(")   ");
+    linha += RetApostaVetBan(p, X);
+    linha += QStringLiteral("  ");
+    linha += QString::number(Pontos.valor());
+    linha += Pontos > 1 ? QStringLiteral(" pontos") : QStringLiteral(" ponto");
+    linha += p.e.FimLinha;
+    RTFConf.acrescenta(linha.left(6), CorNumeroLinha, false);
+    RTFConf.acrescenta(linha.mid(6), CorAposta, false);
+}
+
+QString pontosPadrao(const QString& NomeLoteria) {
+    if (NomeLoteria == QStringLiteral("MEGA-SENA")) return QStringLiteral("4");
+    if (NomeLoteria == QStringLiteral("DUPLA SENA")) return QStringLiteral("4");
+    if (NomeLoteria == QStringLiteral("QUINA")) return QStringLiteral("3");
+    if (NomeLoteria == QStringLiteral("LOTOMANIA")) return QStringLiteral("0");
+    if (NomeLoteria == QStringLiteral("LOTOFÁCIL")) return QStringLiteral("11");
+    return QString();
+}
+
+void ConfApostas::Carrega() {
+    tela.TxtPontos.Text = pontosPadrao(p_.e.NomeLoteria);
+    if (p_.e.NomeLoteria == QStringLiteral("DUPLA SENA"))
+        p_.s.caixa->informacao(QStringLiteral("Lembrete: não se esqueça de conferir o segundo sorteio!"));
+    tela.LblTitulo = QStringLiteral("Conferir banco de apostas - ") + p_.e.NomeLoteria;
+}
+
+bool ConfApostas::Ativa() {
+    if (p_.e.VetDezenas(0) == u'#') {
+        p_.s.caixa->aviso(QStringLiteral("Informe o resultado na seção \"Escolha de números\""));
+        fechada_ = true;
+    }
+    return !fechada_;
+}
+
+void ConfApostas::BtnIniciar() {
+    const Estado& e = p_.e;
+    DocumentoRico& rtf = tela.RTFConf;
+    for (int i = 0; i <= 99; ++i)
+        VetPontos(i) = 0;
+    tela.LblMensagem = QStringLiteral("Aguarde, conferindo apostas...");
+    p_.s.cedencia->cede();
+
+    rtf.defineVisivel(false);
+    rtf.defineTexto(QString());
+    rtf.defineTexto(QStringLiteral("Conferência de apostas da ") + e.NomeLoteria + QStringLiteral("\r\n") +
+                    QStringLiteral("Banco de apostas: ") + e.ArquivoBanco + QStringLiteral("\r\n\r\n"));
+    EscreveRTF(rtf, QStringLiteral("Resultado: ") + e.DezEscolhidas + e.FimLinha + QStringLiteral("\r\n"),
+               true);
+
+    // No message is handled from here on: the threshold's text is the same
+    // for every bet, and is read when the first bet has been scored.
+    PontuadorBanco pontuador(p_, PontuadorBanco::Sorteio::Resultado);
+    const int64_t quant = e.QuantBan.valor();
+    double limiar = 0;
+    for (int64_t i = 0; i < quant; ++i) {
+        const Int16 pontos = pontuador.pontos(int32_t(i));
+        if (i == 0) limiar = valorNumerico(tela.TxtPontos.Text);
+        if (limiar <= double(pontos.valor())) {
+            InsereRTF(p_, rtf, int32_t(i), pontos);
+            VetPontos(pontos.valor()) += 1;
+        }
+    }
+    EscreveRTF(rtf, e.FimLinha, false);
+
+    for (int p = 0; p <= 99; ++p) {
+        if (VetPontos(p) > 0)
+            EscreveRTF(rtf,
+                       QStringLiteral("Total de cartelas com ") + QString::number(p) +
+                           QStringLiteral(" pontos: ") + QString::number(VetPontos(p).valor()) + e.FimLinha,
+                       true);
+    }
+    rtf.defineVisivel(true);
+    tela.LblMensagem = QStringLiteral("Concluído.");
+    p_.s.caixa->informacao(QStringLiteral("Conferência concluída!"));
+}
+
+void ConfApostas::BtnImprimir() {
+    Impressora& impressora = *p_.s.impressora;
+    impressora.imprime(QString());
+    impressora.imprime(tela.RTFConf.texto());
+    impressora.fim();
+}
+
+void ConfApostas::Redimensiona(int largura, int altura) {
+    tela.FraConfTop = altura - 2200;
+    tela.RTFConfWidth = largura - 350;
+    tela.RTFConfHeight = altura - 3000;
+}
+
+void BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma) {
+    CarregaNumeros(p);
+    CarregaVetDezEsc(p);
+    if (!forma || forma->fechada()) {
+        forma = std::make_unique<ConfApostas>(p);
+        forma->Carrega();
+    }
+    if (!forma->Ativa()) forma.reset();
+}
+
+} // namespace sorvelo
