@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 using namespace sorvelo;
@@ -100,7 +101,8 @@ TEST(AreaRica, PintaCadaTrechoNaSuaCor) {
 TEST(AreaRica, PintaSoAsLinhasEmVista) {
     DocumentoRico doc;
     doc.acrescenta(QStringLiteral("MMMM\r\n"), Vermelho);
-    for (int i = 0; i < 30; ++i) doc.acrescenta(QStringLiteral("linha\r\n"), 0);
+    for (int i = 0; i < 30; ++i)
+        doc.acrescenta(QStringLiteral("linha\r\n"), 0);
     doc.acrescenta(QStringLiteral("MMMM"), Azul);
     Vista v(&doc, 300, 120, 12);
     // Follows the end: the blue last line is in sight, the red first is not.
@@ -194,7 +196,8 @@ TEST(AreaRica, CtrlACtrlCCopiaOTextoTodo) {
     EXPECT_EQ(v.area.fimSelecao(), doc.comprimento());
     tecla(&v.area, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), doc.texto());
-    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("00002)   01 02 03 04 05 06 \r\n")));
+    EXPECT_TRUE(
+        QGuiApplication::clipboard()->text().contains(QStringLiteral("00002)   01 02 03 04 05 06 \r\n")));
 }
 
 TEST(AreaRica, CopiarComAtalhoTemPrecedencia) {
@@ -239,6 +242,16 @@ TEST(AreaRica, SegueOFimAoAcrescentar) {
     v.area.atualiza();
     EXPECT_EQ(v.area.primeiraLinhaVisivel(), doc.quantLinhas() - vis);
     EXPECT_EQ(v.area.verticalScrollBar()->maximum(), doc.quantLinhas() - vis);
+
+    // A line wider than the view brings the horizontal bar, which takes
+    // height from the view: the end stays in sight.
+    doc.acrescenta(QString(300, u'9') + QStringLiteral("\r\n"), 0);
+    v.area.atualiza();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(v.area.horizontalScrollBar()->isVisible());
+    const qreal altura = std::ceil(QFontMetricsF(v.area.font()).lineSpacing());
+    EXPECT_EQ(v.area.linhasVisiveis(), int(v.area.viewport()->height() / altura));
+    EXPECT_EQ(v.area.primeiraLinhaVisivel(), doc.quantLinhas() - v.area.linhasVisiveis());
 }
 
 TEST(AreaRica, ReescritaLimpaASelecao) {
@@ -266,7 +279,8 @@ TEST(AreaRica, DocumentoEscondidoNaoEPintado) {
 
     doc.defineVisivel(false);
     v.area.atualiza();
-    for (int i = 0; i < 200; ++i) doc.acrescenta(QStringLiteral("MMMM\r\n"), Azul);
+    for (int i = 0; i < 200; ++i)
+        doc.acrescenta(QStringLiteral("MMMM\r\n"), Azul);
     v.area.atualiza();
     QImage img = v.imagem();
     EXPECT_EQ(conta(img, exata(Vermelho)), 0);
@@ -329,8 +343,8 @@ TEST(AreaRica, MilhaoDeLinhasRolaAoMeio) {
     EXPECT_EQ(v.area.primeiraLinhaVisivel(), 499999);
     tecla(&v.area, Qt::Key_Down);
     EXPECT_EQ(v.area.primeiraLinhaVisivel(), 500000);
-    QWheelEvent roda(QPointF(10, 10), v.area.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, -120),
-                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent roda(QPointF(10, 10), v.area.viewport()->mapToGlobal(QPointF(10, 10)), QPoint(),
+                     QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(v.area.viewport(), &roda);
     EXPECT_EQ(v.area.primeiraLinhaVisivel(), 500000 + QApplication::wheelScrollLines());
     tecla(&v.area, Qt::Key_Home, Qt::ControlModifier);

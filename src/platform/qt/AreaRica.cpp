@@ -18,9 +18,18 @@ namespace sorvelo {
 namespace {
 constexpr int64_t MaximoBarra = INT_MAX;
 
-int paraInt(int64_t v) { return int(std::clamp<int64_t>(v, 0, MaximoBarra)); }
+int paraInt(int64_t v) {
+    return int(std::clamp<int64_t>(v, 0, MaximoBarra));
+}
 
-bool ehDePalavra(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+// A width in pixels as the scroll bar takes it.
+int larguraInteira(qreal w) {
+    return int(std::clamp<qreal>(std::ceil(w), 0, qreal(MaximoBarra / 2)));
+}
+
+bool ehDePalavra(QChar c) {
+    return c.isLetterOrNumber() || c == u'_';
+}
 } // namespace
 
 AreaRica::AreaRica(QWidget* pai) : QAbstractScrollArea(pai) {
@@ -42,12 +51,13 @@ void AreaRica::medeFonte() {
     alturaLinha_ = std::ceil(std::max(metricas_.lineSpacing(), metricasNegrito_.lineSpacing()));
     if (alturaLinha_ < 1) alturaLinha_ = 1;
     ascendente_ = std::max(metricas_.ascent(), metricasNegrito_.ascent());
-    larguraCaractere_ = std::max<qreal>(1, std::max(metricas_.averageCharWidth(), metricas_.horizontalAdvance(u'0')));
+    larguraCaractere_ =
+        std::max<qreal>(1, std::max(metricas_.averageCharWidth(), metricas_.horizontalAdvance(u'0')));
     larguraMedida_ = false;
     larguraConteudo_ = 0;
     if (doc_ && !nuncaVisto_ && linhaMaisLonga_ < quantLinhasDoc()) {
-        larguraConteudo_ = int(std::ceil(std::max(larguraLinha(linhaMaisLonga_),
-                                                  qreal(maiorComprimento_) * larguraCaractere_)));
+        larguraConteudo_ = larguraInteira(
+            std::max(larguraLinha(linhaMaisLonga_), qreal(maiorComprimento_) * larguraCaractere_));
         larguraMedida_ = true;
     }
     ajustaBarras();
@@ -99,7 +109,7 @@ void AreaRica::atualiza() {
     if (!larguraMedida_ || maiorComprimento_ != antes) {
         const qreal medida = larguraLinha(linhaMaisLonga_);
         const qreal estimada = qreal(maiorComprimento_) * larguraCaractere_;
-        larguraConteudo_ = std::max(larguraConteudo_, int(std::ceil(std::max(medida, estimada))));
+        larguraConteudo_ = std::max(larguraConteudo_, larguraInteira(std::max(medida, estimada)));
         larguraMedida_ = true;
     }
     geracaoVista_ = doc_->geracao();
@@ -136,8 +146,12 @@ void AreaRica::ajustaBarras() {
     hbar->setSingleStep(std::max(1, int(larguraCaractere_ * 2)));
 }
 
-int64_t AreaRica::inicioSelecao() const { return std::min(ancora_, posicao_); }
-int64_t AreaRica::fimSelecao() const { return std::max(ancora_, posicao_); }
+int64_t AreaRica::inicioSelecao() const {
+    return std::min(ancora_, posicao_);
+}
+int64_t AreaRica::fimSelecao() const {
+    return std::max(ancora_, posicao_);
+}
 
 QString AreaRica::textoSelecionado() const {
     if (!doc_) return QString();
@@ -146,9 +160,13 @@ QString AreaRica::textoSelecionado() const {
     return doc_->texto().mid(ini, fim - ini);
 }
 
-int64_t AreaRica::primeiraLinhaVisivel() const { return verticalScrollBar()->value(); }
+int64_t AreaRica::primeiraLinhaVisivel() const {
+    return verticalScrollBar()->value();
+}
 
-int AreaRica::linhasVisiveis() const { return std::max(1, int(viewport()->height() / alturaLinha_)); }
+int AreaRica::linhasVisiveis() const {
+    return std::max(1, int(viewport()->height() / alturaLinha_));
+}
 
 void AreaRica::selecionaTudo() {
     ancora_ = 0;
@@ -169,9 +187,13 @@ void AreaRica::copiaParaSelecaoDoSistema() {
     if (!t.isEmpty()) c->setText(t, QClipboard::Selection);
 }
 
-void AreaRica::rolaParaLinha(int64_t linha) { verticalScrollBar()->setValue(paraInt(linha)); }
+void AreaRica::rolaParaLinha(int64_t linha) {
+    verticalScrollBar()->setValue(paraInt(linha));
+}
 
-void AreaRica::rolaParaFim() { verticalScrollBar()->setValue(verticalScrollBar()->maximum()); }
+void AreaRica::rolaParaFim() {
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
 
 qreal AreaRica::largura(int64_t inicio, int64_t fim, bool negrito) const {
     if (fim <= inicio) return 0;
@@ -201,8 +223,10 @@ int64_t AreaRica::caractereNaLinha(int64_t linha, qreal x) const {
             int64_t lo = t.inicio, hi = t.fim;
             while (hi - lo > 1) {
                 const int64_t meio = lo + (hi - lo) / 2;
-                if (largura(t.inicio, meio, negrito) <= xr) lo = meio;
-                else hi = meio;
+                if (largura(t.inicio, meio, negrito) <= xr)
+                    lo = meio;
+                else
+                    hi = meio;
             }
             const qreal wl = largura(t.inicio, lo, negrito), wh = largura(t.inicio, hi, negrito);
             int64_t k = (xr - wl <= wh - xr) ? lo : hi;
@@ -216,8 +240,7 @@ int64_t AreaRica::caractereNaLinha(int64_t linha, qreal x) const {
 
 int64_t AreaRica::posicaoEm(QPoint ponto) const {
     if (!doc_ || doc_->comprimento() == 0) return 0;
-    const int64_t linha =
-        primeiraLinhaVisivel() + int64_t(std::floor(qreal(ponto.y()) / alturaLinha_));
+    const int64_t linha = primeiraLinhaVisivel() + int64_t(std::floor(qreal(ponto.y()) / alturaLinha_));
     if (linha < 0) return 0;
     if (linha >= doc_->quantLinhas()) return doc_->comprimento();
     return caractereNaLinha(linha, qreal(ponto.x() + horizontalScrollBar()->value() - Margem));
@@ -235,7 +258,8 @@ void AreaRica::paintEvent(QPaintEvent* e) {
     const int64_t n = doc_->quantLinhas();
     const int64_t comprimento = doc_->comprimento();
     if (comprimento == 0) return;
-    const int64_t selIni = std::min(inicioSelecao(), comprimento), selFim = std::min(fimSelecao(), comprimento);
+    const int64_t selIni = std::min(inicioSelecao(), comprimento),
+                  selFim = std::min(fimSelecao(), comprimento);
     const int64_t primeira = primeiraLinhaVisivel();
     const int64_t de = primeira + int64_t(std::floor(area.top() / alturaLinha_));
     const int64_t ate = primeira + int64_t(std::ceil((area.bottom() + 1) / alturaLinha_));
@@ -244,8 +268,8 @@ void AreaRica::paintEvent(QPaintEvent* e) {
         maisLarga = std::max(maisLarga, pintaLinha(p, l, qreal(l - primeira) * alturaLinha_, selIni, selFim));
     // A line wider than the estimate widens the horizontal range, after
     // this paint (the bar may appear and resize the viewport).
-    if (int(std::ceil(maisLarga)) > larguraConteudo_) {
-        larguraConteudo_ = int(std::ceil(maisLarga));
+    if (larguraInteira(maisLarga) > larguraConteudo_) {
+        larguraConteudo_ = larguraInteira(maisLarga);
         QMetaObject::invokeMethod(this, &AreaRica::ajustaBarras, Qt::QueuedConnection);
     }
 }
@@ -296,7 +320,9 @@ void AreaRica::resizeEvent(QResizeEvent* e) {
     if (noFim) rolaParaFim();
 }
 
-void AreaRica::scrollContentsBy(int, int) { viewport()->update(); }
+void AreaRica::scrollContentsBy(int, int) {
+    viewport()->update();
+}
 
 void AreaRica::mousePressEvent(QMouseEvent* e) {
     if (e->button() != Qt::LeftButton || !documentoVisivel()) {
@@ -313,10 +339,12 @@ void AreaRica::mousePressEvent(QMouseEvent* e) {
 
 void AreaRica::estendeSelecaoPara(QPoint ponto) {
     // Dragging past an edge scrolls that way.
-    if (ponto.y() < 0) verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    if (ponto.y() < 0)
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
     else if (ponto.y() >= viewport()->height())
         verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    if (ponto.x() < 0) horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    if (ponto.x() < 0)
+        horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
     else if (ponto.x() >= viewport()->width())
         horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
     posicao_ = posicaoEm(ponto);
@@ -352,8 +380,10 @@ void AreaRica::mouseDoubleClickEvent(QMouseEvent* e) {
     int64_t ini = posicaoEm(e->position().toPoint()), fim = ini;
     if (ini < n && !ehDePalavra(texto[qsizetype(ini)]) && ini > 0 && ehDePalavra(texto[qsizetype(ini - 1)]))
         --ini, --fim;
-    while (ini > 0 && ehDePalavra(texto[qsizetype(ini - 1)])) --ini;
-    while (fim < n && ehDePalavra(texto[qsizetype(fim)])) ++fim;
+    while (ini > 0 && ehDePalavra(texto[qsizetype(ini - 1)]))
+        --ini;
+    while (fim < n && ehDePalavra(texto[qsizetype(fim)]))
+        ++fim;
     ancora_ = ini;
     posicao_ = fim;
     arrastando_ = true;
@@ -364,22 +394,40 @@ void AreaRica::mouseDoubleClickEvent(QMouseEvent* e) {
 void AreaRica::keyPressEvent(QKeyEvent* e) {
     QScrollBar* vbar = verticalScrollBar();
     QScrollBar* hbar = horizontalScrollBar();
-    if (e == QKeySequence::SelectAll) selecionaTudo();
-    else if (e == QKeySequence::Copy) copia();
+    if (e == QKeySequence::SelectAll)
+        selecionaTudo();
+    else if (e == QKeySequence::Copy)
+        copia();
     else {
         switch (e->key()) {
-        case Qt::Key_Up: vbar->triggerAction(QAbstractSlider::SliderSingleStepSub); break;
-        case Qt::Key_Down: vbar->triggerAction(QAbstractSlider::SliderSingleStepAdd); break;
-        case Qt::Key_PageUp: vbar->triggerAction(QAbstractSlider::SliderPageStepSub); break;
-        case Qt::Key_PageDown: vbar->triggerAction(QAbstractSlider::SliderPageStepAdd); break;
-        case Qt::Key_Left: hbar->triggerAction(QAbstractSlider::SliderSingleStepSub); break;
-        case Qt::Key_Right: hbar->triggerAction(QAbstractSlider::SliderSingleStepAdd); break;
+        case Qt::Key_Up:
+            vbar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+            break;
+        case Qt::Key_Down:
+            vbar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            break;
+        case Qt::Key_PageUp:
+            vbar->triggerAction(QAbstractSlider::SliderPageStepSub);
+            break;
+        case Qt::Key_PageDown:
+            vbar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            break;
+        case Qt::Key_Left:
+            hbar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+            break;
+        case Qt::Key_Right:
+            hbar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+            break;
         case Qt::Key_Home:
             vbar->triggerAction(QAbstractSlider::SliderToMinimum);
             hbar->triggerAction(QAbstractSlider::SliderToMinimum);
             break;
-        case Qt::Key_End: vbar->triggerAction(QAbstractSlider::SliderToMaximum); break;
-        default: QAbstractScrollArea::keyPressEvent(e); return;
+        case Qt::Key_End:
+            vbar->triggerAction(QAbstractSlider::SliderToMaximum);
+            break;
+        default:
+            QAbstractScrollArea::keyPressEvent(e);
+            return;
         }
     }
     e->accept();
@@ -407,8 +455,10 @@ void AreaRica::contextMenuEvent(QContextMenuEvent* e) {
 
 void AreaRica::changeEvent(QEvent* e) {
     QAbstractScrollArea::changeEvent(e);
-    if (e->type() == QEvent::FontChange) medeFonte();
-    else if (e->type() == QEvent::PaletteChange) viewport()->update();
+    if (e->type() == QEvent::FontChange)
+        medeFonte();
+    else if (e->type() == QEvent::PaletteChange)
+        viewport()->update();
 }
 
 } // namespace sorvelo
