@@ -1,5 +1,6 @@
 #include "Sorvelo.h"
 
+#include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
 #include "Protecao.h"
@@ -8,6 +9,7 @@
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "platform/qt/AreaRica.h"
+#include "relatorios/Conferencia.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -104,6 +106,27 @@ template <typename F> void Sorvelo::age(F f) {
 
 void Sorvelo::trocaJogo(const QString& nome) {
     TrocaLoteria(p_, nome);
+}
+
+void Sorvelo::abreConferencia() {
+    BtnConferir(p_, conf_);
+    if (!conf_) {
+        if (janelaConf_) janelaConf_->close();
+        return;
+    }
+    if (janelaConf_) {
+        janelaConf_->ignoraProximaAtivacao();
+        janelaConf_->sincroniza();
+        janelaConf_->raise();
+        janelaConf_->activateWindow();
+        return;
+    }
+    ConfApostas* logica = conf_.get();
+    janelaConf_ = new JanelaConfApostas(p_, *logica, this);
+    connect(janelaConf_, &QObject::destroyed, this, [this, logica] {
+        if (conf_.get() == logica) conf_.reset();
+    });
+    janelaConf_->mostra();
 }
 
 void Sorvelo::montaMenus() {
@@ -263,7 +286,9 @@ void Sorvelo::montaQuadroBanco() {
         375);
     poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
         2415, 375);
-    poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120, 4440, 2535, 375);
+    auto* conferir =
+        poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120, 4440, 2535, 375);
+    liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });
     fraBanco_->setMouseTracking(true);
     fraBanco_->installEventFilter(this);
 }

@@ -7,8 +7,10 @@
 #include "core/Estado.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
+#include <memory>
 
 class QAction;
 class QCheckBox;
@@ -24,6 +26,8 @@ class QToolBar;
 namespace sorvelo {
 
 class AreaRica;
+class ConfApostas;
+class JanelaConfApostas;
 class BotaoGiro;
 class CelulaNumero;
 class Figura;
@@ -72,6 +76,7 @@ class Sorvelo : public QMainWindow {
         return escala_.rotulo(pai, texto, x, y, l, a);
     }
     void trocaJogo(const QString& nome);
+    void abreConferencia();
     void aplicaLayout();
 
     Programa& p_;
@@ -97,6 +102,8 @@ class Sorvelo : public QMainWindow {
     QAction *menuMegaSena_ = nullptr, *menuDuplaSena_ = nullptr, *menuQuina_ = nullptr,
             *menuLotomania_ = nullptr, *menuLotoFacil_ = nullptr;
     QTimer* timer1_ = nullptr;
+    std::unique_ptr<ConfApostas> conf_;
+    QPointer<JanelaConfApostas> janelaConf_;
     bool sincronizando_ = false;
     bool fechado_ = false;
 };
