@@ -97,7 +97,10 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
     timer1_->start();
 }
 
-Sorvelo::~Sorvelo() = default;
+Sorvelo::~Sorvelo() {
+    // The windows that refer to this one's state go first.
+    delete janelaConf_.data();
+}
 
 template <typename F> void Sorvelo::age(F f) {
     executaProtegido(f);
