@@ -45,8 +45,10 @@ struct Estado {
 // Control models. Names of the fields follow the controls' properties.
 struct Celula {
     QString Text;
-    Cor BackColor = 0;
-    Cor ForeColor = 0;
+    // The colours a cell has from the start: those of a free cell. Cells 100
+    // to 104 are never cleared, so they keep them for the whole run.
+    Cor BackColor = rgb(0, 64, 0);
+    Cor ForeColor = rgb(0, 255, 0);
 };
 struct CampoTexto {
     QString Text;
