@@ -19,7 +19,8 @@ Combinacoes::Combinacoes(Programa& p) : p_(p) {
     LblValAp = TextoValorApostas(e.TotalApostas, e.ValorAposta);
     ChkEstVisible = !e.ModoFechamento;
     ChkAutoVisible = e.ModoFechamento;
-    ChkEst.Enabled = e.NomeLoteria != QStringLiteral("LOTOFÁCIL") && e.NomeLoteria != QStringLiteral("LOTOMANIA");
+    ChkEst.Enabled =
+        e.NomeLoteria != QStringLiteral("LOTOFÁCIL") && e.NomeLoteria != QStringLiteral("LOTOMANIA");
 }
 
 void Combinacoes::clicaEstatistica() {
@@ -49,8 +50,9 @@ void Combinacoes::BtnCancelar() {
 void Combinacoes::BtnIniciar() {
     auto& e = p_.e;
     Module2& m = module2(p_);
-    e.Historico += p_.agoraTexto() + QStringLiteral(": Combinação de ") + LblDezComb + QStringLiteral(" números ") +
-                   QStringLiteral(" de ") + LblDezCart + QStringLiteral(" em ") + LblDezCart + CRLF;
+    e.Historico += p_.agoraTexto() + QStringLiteral(": Combinação de ") + LblDezComb +
+                   QStringLiteral(" números ") + QStringLiteral(" de ") + LblDezCart +
+                   QStringLiteral(" em ") + LblDezCart + CRLF;
     if (ChkAuto.Value)
         e.Historico += p_.agoraTexto() + QStringLiteral(": Foi selecionada a opção Auto-Completar.") + CRLF;
     CarregaNumeros(p_);

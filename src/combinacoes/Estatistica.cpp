@@ -69,8 +69,10 @@ int gravaSubconjunto(Programa& p, Int32 ultimo) {
 void IniciaEstatistica(Programa& p, Int32 total) {
     Module2& m = module2(p);
     m.VetContado.assign(size_t(int64_t(total.valor()) + 1), 0);
-    for (int i = 0; i <= 5; ++i) m.VetAcerto(i) = p.e.VetNum(i);
-    for (int i = 0; i <= 5; ++i) m.VetSubBase(i) = m.VetAcerto(i);
+    for (int i = 0; i <= 5; ++i)
+        m.VetAcerto(i) = p.e.VetNum(i);
+    for (int i = 0; i <= 5; ++i)
+        m.VetSubBase(i) = m.VetAcerto(i);
     m.DezPorCartao = p.e.DezAposta;
 }
 
@@ -86,7 +88,8 @@ bool JogoTemSubconjunto(Programa& p, Int32 linha, Int32 j, Int16 c) {
 
 void LimpaContados(Programa& p) {
     Module2& m = module2(p);
-    for (Int32 linha = 0; linha < m.LinhaRes; ++linha) m.Contado(linha.valor()) = 0;
+    for (Int32 linha = 0; linha < m.LinhaRes; ++linha)
+        m.Contado(linha.valor()) = 0;
 }
 
 void GeraSubconjuntos(Programa& p, Int16 k, Int16 n) {
@@ -115,7 +118,8 @@ void GeraSubconjuntos(Programa& p, Int16 k, Int16 n) {
             // the run: the tail is reset and the main loop writes it again.
             if (gravaSubconjunto(p, ultimo) == 1) break;
         }
-        for (Int32 j = q + 1; j <= m.UltPos; ++j) m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
+        for (Int32 j = q + 1; j <= m.UltPos; ++j)
+            m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
     }
 }
 
@@ -151,19 +155,21 @@ QString RetornaEstatistica(Programa& p) {
     QString t;
     const QString& jogo = p.e.NomeLoteria;
     if (jogo == QStringLiteral("MEGA-SENA") || jogo == QStringLiteral("DUPLA SENA")) {
-        t = QStringLiteral("Acertando 4 dezenas pega ") + n(m.QuantQuadras(0)) + QStringLiteral(" quadras.") + crlf;
-        t += QStringLiteral("Acertando 5 dezenas pega ") + n(m.QuantQuinas(0)) + QStringLiteral(" quina(s), ") +
-             n(m.QuantQuadras(1)) + QStringLiteral(" quadras.") + crlf;
+        t = QStringLiteral("Acertando 4 dezenas pega ") + n(m.QuantQuadras(0)) + QStringLiteral(" quadras.") +
+            crlf;
+        t += QStringLiteral("Acertando 5 dezenas pega ") + n(m.QuantQuinas(0)) +
+             QStringLiteral(" quina(s), ") + n(m.QuantQuadras(1)) + QStringLiteral(" quadras.") + crlf;
         t += QStringLiteral("Acertando 6 dezenas pega ") + n(m.QuantSenas) + QStringLiteral(" sena, ") +
              n(m.QuantQuinas(1)) + QStringLiteral(" quina(s) e ") + n(m.QuantQuadras(2)) +
              QStringLiteral(" quadras.");
     } else if (jogo == QStringLiteral("QUINA")) {
-        t = QStringLiteral("Acertando 3 dezenas pega ") + n(m.QuantTernos(0)) + QStringLiteral(" ternos.") + crlf;
-        t += QStringLiteral("Acertando 4 dezenas pega ") + n(m.QuantQuadras(0)) + QStringLiteral(" quadras e ") +
-             n(m.QuantTernos(1)) + QStringLiteral(" ternos.") + crlf;
-        t += QStringLiteral("Acertando 5 dezenas pega ") + n(m.QuantQuinas(0)) + QStringLiteral(" quina(s), ") +
-             n(m.QuantQuadras(1)) + QStringLiteral(" quadras e ") + n(m.QuantTernos(2)) +
-             QStringLiteral(" ternos.") + crlf;
+        t = QStringLiteral("Acertando 3 dezenas pega ") + n(m.QuantTernos(0)) + QStringLiteral(" ternos.") +
+            crlf;
+        t += QStringLiteral("Acertando 4 dezenas pega ") + n(m.QuantQuadras(0)) +
+             QStringLiteral(" quadras e ") + n(m.QuantTernos(1)) + QStringLiteral(" ternos.") + crlf;
+        t += QStringLiteral("Acertando 5 dezenas pega ") + n(m.QuantQuinas(0)) +
+             QStringLiteral(" quina(s), ") + n(m.QuantQuadras(1)) + QStringLiteral(" quadras e ") +
+             n(m.QuantTernos(2)) + QStringLiteral(" ternos.") + crlf;
     }
     p.e.TextoEstatistica = t;
     return t;

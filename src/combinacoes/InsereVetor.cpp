@@ -116,7 +116,9 @@ bool InsereVetor::ExisteNaLista(Int16 r) const {
 }
 
 void InsereVetor::adicionaLista(const QString& item) {
-    auto antes = [](const QString& a, const QString& b) { return QString::compare(a, b, Qt::CaseInsensitive) < 0; };
+    auto antes = [](const QString& a, const QString& b) {
+        return QString::compare(a, b, Qt::CaseInsensitive) < 0;
+    };
     LstSort.insert(std::upper_bound(LstSort.begin(), LstSort.end(), item, antes), item);
 }
 
@@ -155,7 +157,8 @@ QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
             simples = codigos[c] != MatrizTexto::Outro;
         }
         if (simples) {
-            for (int c = 0; c < k.valor(); ++c) acrescentaCodigo(texto, codigos[c]);
+            for (int c = 0; c < k.valor(); ++c)
+                acrescentaCodigo(texto, codigos[c]);
             codigos[k.valor()] = MatrizTexto::Fim;
             e.VetBan.defineCelulas(destino, codigos, k.valor() + 1);
             e.QuantBan += 1;
@@ -185,7 +188,8 @@ QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
         texto = apostaDaLista(i);
     }
     if (!e.VetFixos(0).isEmpty()) {
-        for (int b = 0; b <= 99 && !e.VetFixos(b).isEmpty(); ++b) adicionaLista(e.VetFixos(b));
+        for (int b = 0; b <= 99 && !e.VetFixos(b).isEmpty(); ++b)
+            adicionaLista(e.VetFixos(b));
         texto = apostaDaLista(i);
     }
     tenta([&] { e.VetBan.define(i.valor(), destino, QStringLiteral("#")); });

@@ -31,9 +31,13 @@ double RetQuantCombinacoes(Int16 n, Int16 k) {
     return a / (c * b);
 }
 
-Int32 ArredondaApostas(double quant) { return Int32::de(quant); }
+Int32 ArredondaApostas(double quant) {
+    return Int32::de(quant);
+}
 
-QString TextoQuantApostas(Int32 total) { return textoNumero(int64_t(total.valor())); }
+QString TextoQuantApostas(Int32 total) {
+    return textoNumero(int64_t(total.valor()));
+}
 
 QString TextoValorApostas(Int32 total, double valorAposta) {
     return FormataNumero(textoNumero(double(total.valor()) * valorAposta));
@@ -139,24 +143,27 @@ bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
 int GravaCombinacao(Programa& p) {
     Module2& m = module2(p);
     auto& e = p.e;
-    // The excluded positions of this row, stamped for a look-up by index:
-    // the same answer as PosicaoExcluida, in one pass.
-    if (++m.selo == 0) {
-        std::fill(m.selos.begin(), m.selos.end(), 0u);
-        m.selo = 1;
-    }
-    for (int64_t i = 0; i <= m.UltPos.valor(); ++i) {
-        const int v = m.VetPos(i).valor();
-        if (v >= 0 && v < int(m.selos.size())) m.selos[size_t(v)] = m.selo;
-    }
+    const int64_t ultIndice = m.UltIndice.valor();
+    const int64_t ultPos = m.UltPos.valor();
+    // The bounds of the arrays read below, checked once for the row.
+    if (ultIndice >= 0) e.VetNum(ultIndice);
+    if (ultPos >= 0) m.VetPos(ultPos);
+    const Int16* num = ultIndice >= 0 ? &e.VetNum(0) : nullptr;
+    const Int16* pos = ultPos >= 0 ? &m.VetPos(0) : nullptr;
     const int64_t linha = m.LinhaRes.valor();
     uint8_t codigos[82];
     int col = 0;
     bool simples = true;
-    for (int64_t idx = 0; idx <= m.UltIndice.valor(); ++idx) {
-        if (idx < int64_t(m.selos.size()) && m.selos[size_t(idx)] == m.selo) continue;
-        const int v = e.VetNum(idx).valor();
+    // The excluded positions ascend strictly, so that one walk along them
+    // answers PosicaoExcluida for every index.
+    int64_t j = 0;
+    for (int64_t idx = 0; idx <= ultIndice; ++idx) {
+        if (j <= ultPos && pos[j].valor() == idx) {
+            ++j;
+            continue;
+        }
         if (col > 81) foraDoIntervalo();
+        const int v = num[idx].valor();
         if (v >= 0 && v <= 99) {
             codigos[col] = MatrizTexto::codigoNumero(v);
         } else {
@@ -169,9 +176,13 @@ int GravaCombinacao(Programa& p) {
     if (!simples) {
         // A number that two digits cannot hold is kept as its text.
         int c = 0;
-        for (int64_t idx = 0; idx <= m.UltIndice.valor(); ++idx) {
-            if (idx < int64_t(m.selos.size()) && m.selos[size_t(idx)] == m.selo) continue;
-            const int v = e.VetNum(idx).valor();
+        j = 0;
+        for (int64_t idx = 0; idx <= ultIndice; ++idx) {
+            if (j <= ultPos && pos[j].valor() == idx) {
+                ++j;
+                continue;
+            }
+            const int v = num[idx].valor();
             if (v < 0 || v > 99) e.VetRes.define(c, linha, formata00(v));
             ++c;
         }

@@ -72,10 +72,6 @@ struct Module2 {
 
     Int16& Sub(int64_t linha, int64_t coluna);
     uint8_t& Contado(int64_t linha);
-
-    // Stamps of the excluded positions of the row being written.
-    std::vector<uint32_t> selos = std::vector<uint32_t>(101);
-    uint32_t selo = 0;
 };
 
 Module2& module2(Programa& p);

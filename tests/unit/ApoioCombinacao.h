@@ -35,7 +35,8 @@ struct Bancada {
 
     // Clicks the cells of these numbers (cell of number n: n - NumIni).
     void marca(std::initializer_list<int> numeros) {
-        for (int n : numeros) ClicaNumero(p, Int16::de(int64_t(n - p.e.NumIni.valor())));
+        for (int n : numeros)
+            ClicaNumero(p, Int16::de(int64_t(n - p.e.NumIni.valor())));
     }
     void fixa(std::initializer_list<int> numeros) {
         p.tela.ChkFixar.Value = true;
@@ -43,7 +44,8 @@ struct Bancada {
         p.tela.ChkFixar.Value = false;
     }
     void marcaFaixa(int de, int ate) {
-        for (int n = de; n <= ate; ++n) ClicaNumero(p, Int16::de(int64_t(n - p.e.NumIni.valor())));
+        for (int n = de; n <= ate; ++n)
+            ClicaNumero(p, Int16::de(int64_t(n - p.e.NumIni.valor())));
     }
     void dezenasPorAposta(int k) { p.tela.TxtDezAp.Text = formata00(k); }
 
@@ -62,9 +64,9 @@ struct Bancada {
 
 // What a scripted user does in the dialogs.
 struct Roteiro {
-    bool iniciar = true;          // press "Iniciar combinação" (else "Cancelar")
-    bool estatistica = false;     // click "Fazer estatística de acertos" first
-    bool autoCompletar = false;   // click "Auto-completar" first
+    bool iniciar = true;        // press "Iniciar combinação" (else "Cancelar")
+    bool estatistica = false;   // click "Fazer estatística de acertos" first
+    bool autoCompletar = false; // click "Auto-completar" first
     // Called with the dialogs while they are up (for cancels inside yields).
     Combinacoes* combinacoes = nullptr;
     InsereVetor* insere = nullptr;
@@ -87,8 +89,10 @@ inline JanelasCombinacao janelasRoteirizadas(Roteiro& r) {
         r.combinacoes = &dlg;
         if (r.estatistica) dlg.clicaEstatistica();
         if (r.autoCompletar) dlg.clicaAutoCompletar();
-        if (r.iniciar) dlg.BtnIniciar();
-        else dlg.BtnCancelar();
+        if (r.iniciar)
+            dlg.BtnIniciar();
+        else
+            dlg.BtnCancelar();
         r.combinacoes = nullptr;
     };
     j.mostraInsereVetor = [&r](Programa& p) {

@@ -13,12 +13,15 @@ TEST(Fatorial, ZeroEUmValemUm) {
     EXPECT_EQ(Fatorial(6), 720.0);
 }
 
-TEST(Fatorial, NegativoNaoERecusado) { EXPECT_EQ(Fatorial(-3), 12.0); }
+TEST(Fatorial, NegativoNaoERecusado) {
+    EXPECT_EQ(Fatorial(-3), 12.0);
+}
 
 TEST(Fatorial, FatoresDoMaiorParaOMenor) {
     // The product taken from the highest factor down, in double precision.
     double r = 50;
-    for (int x = 49; x >= 1; --x) r = x * r;
+    for (int x = 49; x >= 1; --x)
+        r = x * r;
     EXPECT_EQ(Fatorial(50), r);
 }
 

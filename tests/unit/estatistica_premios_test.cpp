@@ -11,7 +11,8 @@ namespace {
 int64_t comb(int n, int k) {
     if (k < 0 || k > n) return 0;
     int64_t r = 1;
-    for (int i = 1; i <= k; ++i) r = r * (n - k + i) / i;
+    for (int i = 1; i <= k; ++i)
+        r = r * (n - k + i) / i;
     return r;
 }
 
@@ -39,9 +40,10 @@ TEST(FazEstatistica, MegaSenaSeteASeis) {
     EXPECT_EQ(m.QuantSenas, 1);
     EXPECT_EQ(m.QuantQuinas(1), 6);
     EXPECT_EQ(m.QuantQuadras(2), 0);
-    EXPECT_EQ(RetornaEstatistica(b.p), QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
-                                                      "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
-                                                      "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
+    EXPECT_EQ(RetornaEstatistica(b.p),
+              QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
+                             "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
+                             "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
     EXPECT_EQ(b.p.e.TextoEstatistica, RetornaEstatistica(b.p));
 }
 
@@ -62,9 +64,10 @@ TEST(FazEstatistica, MegaSenaOitoASeisContaCadaLinhaNoMaiorPremio) {
 TEST(FazEstatistica, DuplaSenaComoAMega) {
     Bancada b(QStringLiteral("Dupla Sena"));
     geraEConta(b, 7, 6);
-    EXPECT_EQ(RetornaEstatistica(b.p), QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
-                                                      "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
-                                                      "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
+    EXPECT_EQ(RetornaEstatistica(b.p),
+              QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
+                             "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
+                             "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
 }
 
 TEST(FazEstatistica, QuinaTemTresLinhasComTernos) {
@@ -77,10 +80,11 @@ TEST(FazEstatistica, QuinaTemTresLinhasComTernos) {
     EXPECT_EQ(m.QuantQuinas(0), 1);
     EXPECT_EQ(m.QuantQuadras(1), comb(5, 4) * comb(2, 1));
     EXPECT_EQ(m.QuantTernos(2), comb(5, 3) * comb(2, 2));
-    EXPECT_EQ(RetornaEstatistica(b.p), QStringLiteral("Acertando 3 dezenas pega 6 ternos.\r\n"
-                                                      "Acertando 4 dezenas pega 3 quadras e 12 ternos.\r\n"
-                                                      "Acertando 5 dezenas pega 1 quina(s), 10 quadras e 10 ternos."
-                                                      "\r\n"));
+    EXPECT_EQ(RetornaEstatistica(b.p),
+              QStringLiteral("Acertando 3 dezenas pega 6 ternos.\r\n"
+                             "Acertando 4 dezenas pega 3 quadras e 12 ternos.\r\n"
+                             "Acertando 5 dezenas pega 1 quina(s), 10 quadras e 10 ternos."
+                             "\r\n"));
 }
 
 TEST(FazEstatistica, SeisPassesSobreAsLinhas) {
@@ -133,9 +137,10 @@ TEST(RetornaEstatistica, PalavrasSemSingular) {
     m.QuantSenas = 1;
     m.QuantQuinas(1) = 0;
     m.QuantQuadras(2) = 1;
-    EXPECT_EQ(RetornaEstatistica(b.p), QStringLiteral("Acertando 4 dezenas pega 1 quadras.\r\n"
-                                                      "Acertando 5 dezenas pega 1 quina(s), 1 quadras.\r\n"
-                                                      "Acertando 6 dezenas pega 1 sena, 0 quina(s) e 1 quadras."));
+    EXPECT_EQ(RetornaEstatistica(b.p),
+              QStringLiteral("Acertando 4 dezenas pega 1 quadras.\r\n"
+                             "Acertando 5 dezenas pega 1 quina(s), 1 quadras.\r\n"
+                             "Acertando 6 dezenas pega 1 sena, 0 quina(s) e 1 quadras."));
 }
 
 TEST(FazEstatistica, VetResFicaComoEstava) {
@@ -147,11 +152,13 @@ TEST(FazEstatistica, VetResFicaComoEstava) {
     ASSERT_TRUE(CombinaVetor(b.p, 8, 6, 28));
     QStringList antes;
     for (int r = 0; r <= 28; ++r)
-        for (int c = 0; c <= 81; ++c) antes << b.p.e.VetRes.valor(c, r);
+        for (int c = 0; c <= 81; ++c)
+            antes << b.p.e.VetRes.valor(c, r);
     FazEstatistica(b.p, b.p.e.NomeLoteria, 28);
     QStringList depois;
     for (int r = 0; r <= 28; ++r)
-        for (int c = 0; c <= 81; ++c) depois << b.p.e.VetRes.valor(c, r);
+        for (int c = 0; c <= 81; ++c)
+            depois << b.p.e.VetRes.valor(c, r);
     EXPECT_EQ(antes, depois);
     EXPECT_EQ(b.p.e.VetRes.ultimaLinha(), 28);
 }

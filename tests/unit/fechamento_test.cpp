@@ -10,7 +10,9 @@ using namespace sorvelo;
 using namespace sorvelo::teste;
 
 namespace {
-QStringList numeros(const QString& linhaAposta) { return linhaAposta.mid(9).split(u' ', Qt::SkipEmptyParts); }
+QStringList numeros(const QString& linhaAposta) {
+    return linhaAposta.mid(9).split(u' ', Qt::SkipEmptyParts);
+}
 
 bool gradeLimpa(const Bancada& b) {
     for (int i = 0; i <= 99; ++i)
@@ -53,7 +55,8 @@ TEST(Fechamento, DuqueDaMegaSenaTem1770ApostasDeDois) {
     ASSERT_EQ(apostas.size(), 1770);
     EXPECT_EQ(apostas.first(), QStringLiteral("00001)   01 02 "));
     EXPECT_EQ(apostas.last(), QStringLiteral("01770)   59 60 "));
-    for (const QString& a : apostas) EXPECT_EQ(numeros(a).size(), 2);
+    for (const QString& a : apostas)
+        EXPECT_EQ(numeros(a).size(), 2);
     EXPECT_EQ(b.p.e.QuantBan, 1770);
 }
 
@@ -63,7 +66,8 @@ TEST(Fechamento, CabecalhoTerminaEmQuarentaZeros) {
     Roteiro r;
     BtnFechar(b.p, janelasRoteirizadas(r));
     QString dezenas;
-    for (int n = 1; n <= 60; ++n) dezenas += formata00(n) + u' ';
+    for (int n = 1; n <= 60; ++n)
+        dezenas += formata00(n) + u' ';
     dezenas += QStringLiteral("00 ").repeated(40);
     EXPECT_EQ(b.p.e.DezEscolhidas, dezenas);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().startsWith(QStringLiteral("Dezenas escolhidas: ") + dezenas +
@@ -90,7 +94,8 @@ TEST(Fechamento, SemAutoCompletarNaoHaLinhaDeAutoCompletar) {
     Roteiro r;
     BtnFechar(b.p, janelasRoteirizadas(r));
     EXPECT_EQ(b.p.e.Historico.count(QStringLiteral("Auto-Completar")), 0);
-    EXPECT_TRUE(b.p.e.Historico.endsWith(Agora + QStringLiteral(": Fechamento completo de Duque\r\n") + Agora +
+    EXPECT_TRUE(b.p.e.Historico.endsWith(Agora + QStringLiteral(": Fechamento completo de Duque\r\n") +
+                                         Agora +
                                          QStringLiteral(": Combinação de 80 números  de 02 em 02\r\n")));
     EXPECT_EQ(b.p.e.QuantBan, 3160);
 }
@@ -110,7 +115,8 @@ TEST(Fechamento, AutoCompletarLevaCadaDuqueASeisNumeros) {
         QStringList ordenados = n;
         ordenados.sort();
         EXPECT_EQ(n, ordenados);
-        for (const QString& x : n) EXPECT_LE(x.toInt(), 60);
+        for (const QString& x : n)
+            EXPECT_LE(x.toInt(), 60);
         EXPECT_EQ(b.linhaVetBan(i), apostas[i].mid(9));
     }
     EXPECT_EQ(module2(b.p).AutoCompletar, 1);
@@ -131,7 +137,8 @@ TEST(Fechamento, AutoCompletarNaMegaAceitaOZero) {
 TEST(Fechamento, DuqueDaLotofacilComAutoCompletarNuncaTem00) {
     Bancada b(QStringLiteral("Lotofácil"));
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
-    for (int i = 0; i < 20; ++i) b.d.aleatorio.enfileira(0.0f);
+    for (int i = 0; i < 20; ++i)
+        b.d.aleatorio.enfileira(0.0f);
     Roteiro r;
     r.autoCompletar = true;
     BtnFechar(b.p, janelasRoteirizadas(r));
@@ -198,7 +205,8 @@ TEST(Fechamento, FixosNaoEntram) {
     Roteiro r;
     BtnFechar(b.p, janelasRoteirizadas(r));
     EXPECT_TRUE(b.p.e.VetFixos(0).isEmpty());
-    for (const QString& a : b.apostasBanco()) ASSERT_EQ(numeros(a).size(), 2);
+    for (const QString& a : b.apostasBanco())
+        ASSERT_EQ(numeros(a).size(), 2);
     EXPECT_EQ(b.p.e.DezEscolhidas.count(QStringLiteral("05 ")), 1);
     EXPECT_TRUE(gradeLimpa(b));
 }

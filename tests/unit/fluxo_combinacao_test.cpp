@@ -42,7 +42,8 @@ TEST(FluxoCombinacao, DaGradeAoBanco) {
     EXPECT_EQ(r.lblTotAp, QStringLiteral(" 7"));
     EXPECT_EQ(r.lblValAp, QStringLiteral("31,50"));
     EXPECT_EQ(b.p.e.Historico, LinhaSeteASeis);
-    const QString esperado = QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 07 \r\n") + LinhaSeteASeis +
+    const QString esperado = QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 07 \r\n") +
+                             LinhaSeteASeis +
                              QStringLiteral("\r\n"
                                             "00001)   01 02 03 04 05 06 \r\n"
                                             "00002)   01 02 03 04 05 07 \r\n"
@@ -59,7 +60,8 @@ TEST(FluxoCombinacao, DaGradeAoBanco) {
     EXPECT_FALSE(r.caretNoFim);
     EXPECT_FALSE(b.p.e.ModoReduzido);
     // Timer1 shows the count and the price within three ticks.
-    for (int i = 0; i < 3; ++i) TickTimer1(b.p);
+    for (int i = 0; i < 3; ++i)
+        TickTimer1(b.p);
     EXPECT_EQ(b.p.tela.TxtQuantApostas.Text, QStringLiteral(" 7"));
     EXPECT_EQ(b.p.tela.TxtValorApostas.Text, QStringLiteral("31,50"));
 }
@@ -96,6 +98,18 @@ TEST(FluxoCombinacao, DezenasPorApostaIgualAsEscolhidasDaUmaAposta) {
     Roteiro r;
     BtnIniciar(b.p, janelasRoteirizadas(r));
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   04 08 15 16 23 42 ")});
+}
+
+TEST(FluxoCombinacao, ZeroDezenasPorApostaDaUmaApostaVazia) {
+    Bancada b;
+    b.marcaFaixa(1, 4);
+    b.dezenasPorAposta(0);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(r.lblTotAp, QStringLiteral(" 1"));
+    EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   ")});
+    EXPECT_EQ(b.p.e.VetBan.valor(0, 0), QStringLiteral("#"));
+    EXPECT_EQ(b.p.e.QuantBan, 1);
 }
 
 TEST(FluxoCombinacao, FixosEntramEmTodasAsApostas) {
@@ -212,9 +226,11 @@ TEST(FluxoCombinacao, NaoAcrescentaSegundoBlocoNumeradoDeNovo) {
     EXPECT_TRUE(apostas[7].startsWith(QStringLiteral("00001)")));
     EXPECT_EQ(b.p.e.QuantBan, 14);
     // The second head carries both log lines.
-    EXPECT_TRUE(b.p.tela.TxtBanco.texto().contains(QStringLiteral("\r\n\r\nDezenas escolhidas: 01 02 03 04 05 06 07 \r\n") +
-                                                   LinhaSeteASeis + LinhaSeteASeis + QStringLiteral("\r\n00001)")));
-    for (int i = 0; i < 3; ++i) TickTimer1(b.p);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().contains(
+        QStringLiteral("\r\n\r\nDezenas escolhidas: 01 02 03 04 05 06 07 \r\n") + LinhaSeteASeis +
+        LinhaSeteASeis + QStringLiteral("\r\n00001)")));
+    for (int i = 0; i < 3; ++i)
+        TickTimer1(b.p);
     EXPECT_EQ(b.p.tela.TxtQuantApostas.Text, QStringLiteral(" 14"));
     EXPECT_EQ(b.p.tela.TxtValorApostas.Text, QStringLiteral("63,00"));
 }
@@ -233,7 +249,8 @@ TEST(FluxoCombinacao, SimEsvaziaOBancoAntes) {
     EXPECT_EQ(b.apostasBanco().size(), 7);
     // The emptying started the log anew, after the dialog had written to it.
     EXPECT_EQ(b.p.tela.TxtBanco.texto().section(QStringLiteral("\r\n"), 0, 1),
-              QStringLiteral("Dezenas escolhidas: \r\n") + Agora + QStringLiteral(": Limpou banco de apostas"));
+              QStringLiteral("Dezenas escolhidas: \r\n") + Agora +
+                  QStringLiteral(": Limpou banco de apostas"));
 }
 
 TEST(FluxoCombinacao, CancelarAntesDeIniciarNaoTocaNoBanco) {
@@ -317,12 +334,14 @@ TEST(FluxoCombinacao, CancelamentoPertoDoFimSobrevive) {
 TEST(Timer1, ApagaCanceladoACada31Tiques) {
     Bancada b;
     b.p.e.Cancelado = true;
-    for (int i = 0; i < 30; ++i) TickTimer1(b.p);
+    for (int i = 0; i < 30; ++i)
+        TickTimer1(b.p);
     EXPECT_TRUE(b.p.e.Cancelado);
     TickTimer1(b.p);
     EXPECT_FALSE(b.p.e.Cancelado);
     b.p.e.Cancelado = true;
-    for (int i = 0; i < 30; ++i) TickTimer1(b.p);
+    for (int i = 0; i < 30; ++i)
+        TickTimer1(b.p);
     EXPECT_TRUE(b.p.e.Cancelado);
     TickTimer1(b.p);
     EXPECT_FALSE(b.p.e.Cancelado);

@@ -12,7 +12,8 @@ using namespace sorvelo::teste;
 namespace {
 QString linhaRes(const Programa& p, int linha, int quant) {
     QStringList cel;
-    for (int c = 0; c < quant; ++c) cel << p.e.VetRes.valor(c, linha);
+    for (int c = 0; c < quant; ++c)
+        cel << p.e.VetRes.valor(c, linha);
     return cel.join(u' ');
 }
 
@@ -93,7 +94,8 @@ TEST(CombinaVetor, LidasDeTrasParaFrenteFicamEmOrdemCrescente) {
     const int total = 210;
     EXPECT_EQ(module2(b.p).LinhaRes, total);
     QStringList lidas;
-    for (int r = total - 1; r >= 0; --r) lidas << linhaRes(b.p, r, 4);
+    for (int r = total - 1; r >= 0; --r)
+        lidas << linhaRes(b.p, r, 4);
     QStringList ordenadas = lidas;
     ordenadas.sort();
     ordenadas.removeDuplicates();
@@ -202,7 +204,8 @@ TEST(Progresso, AvancaUmaVezPorPeriodo) {
     std::vector<int32_t> valores;
     m.aoMudarProgresso = [&](const BarraProgresso& barra) { valores.push_back(barra.Value); };
     IniciaProgresso(b.p, 1000);
-    for (int i = 0; i < 1000; ++i) AvancaProgresso(b.p);
+    for (int i = 0; i < 1000; ++i)
+        AvancaProgresso(b.p);
     EXPECT_EQ(m.ValorProgresso, 10);
     EXPECT_EQ(m.Progresso.Value, 10);
     EXPECT_EQ(valores, (std::vector<int32_t>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
@@ -219,7 +222,8 @@ TEST(Progresso, ContadorDeCicloSegueDeUmaExecucaoAOutra) {
     EXPECT_EQ(m.Progresso.Value, 7);
     IniciaProgresso(b.p, 1000);
     EXPECT_EQ(m.ContProgresso, 7) << "IniciaProgresso não zera o ciclo";
-    for (int i = 0; i < 150; ++i) AvancaProgresso(b.p);
+    for (int i = 0; i < 150; ++i)
+        AvancaProgresso(b.p);
     // From 7 to 156 only 100 is a multiple of the period; from 0 it would
     // have been 0 and 100.
     EXPECT_EQ(m.ValorProgresso, 1);
@@ -241,7 +245,8 @@ TEST(Progresso, BarraRecusaValorAcimaDoMaximoEOLacoSegue) {
     Bancada b;
     Module2& m = module2(b.p);
     IniciaProgresso(b.p, 1); // maximum 2
-    for (int i = 0; i < 5; ++i) AvancaProgresso(b.p);
+    for (int i = 0; i < 5; ++i)
+        AvancaProgresso(b.p);
     EXPECT_EQ(m.ValorProgresso, 5);
     EXPECT_EQ(m.Progresso.Value, 2);
 }
@@ -249,12 +254,14 @@ TEST(Progresso, BarraRecusaValorAcimaDoMaximoEOLacoSegue) {
 TEST(GeraSubconjuntos, QuatroDeSeisRepeteOUltimo) {
     Bancada b;
     Module2& m = module2(b.p);
-    for (int i = 0; i <= 5; ++i) m.VetSubBase(i) = Int16(int16_t(i + 1));
+    for (int i = 0; i <= 5; ++i)
+        m.VetSubBase(i) = Int16(int16_t(i + 1));
     GeraSubconjuntos(b.p, 4, 6);
     ASSERT_EQ(m.QuantSub, 16);
     auto sub = [&](int j) {
         QStringList s;
-        for (int c = 0; c < 4; ++c) s << QString::number(m.Sub(j, c).valor());
+        for (int c = 0; c < 4; ++c)
+            s << QString::number(m.Sub(j, c).valor());
         return s.join(u' ');
     };
     EXPECT_EQ(sub(0), QStringLiteral("3 4 5 6"));
@@ -267,7 +274,8 @@ TEST(GeraSubconjuntos, QuatroDeSeisRepeteOUltimo) {
 TEST(GeraSubconjuntos, TresDeCincoRepeteOUltimo) {
     Bancada b;
     Module2& m = module2(b.p);
-    for (int i = 0; i <= 5; ++i) m.VetSubBase(i) = Int16(int16_t(10 * (i + 1)));
+    for (int i = 0; i <= 5; ++i)
+        m.VetSubBase(i) = Int16(int16_t(10 * (i + 1)));
     GeraSubconjuntos(b.p, 3, 5);
     ASSERT_EQ(m.QuantSub, 11);
     EXPECT_EQ(m.Sub(9, 0), 10);
@@ -279,7 +287,8 @@ TEST(GeraSubconjuntos, TresDeCincoRepeteOUltimo) {
 TEST(GeraSubconjuntos, UmaPosicaoExcluidaNaoRepete) {
     Bancada b;
     Module2& m = module2(b.p);
-    for (int i = 0; i <= 5; ++i) m.VetSubBase(i) = Int16(int16_t(i + 1));
+    for (int i = 0; i <= 5; ++i)
+        m.VetSubBase(i) = Int16(int16_t(i + 1));
     GeraSubconjuntos(b.p, 5, 6);
     EXPECT_EQ(m.QuantSub, 6);
     GeraSubconjuntos(b.p, 4, 5);

@@ -57,11 +57,12 @@ TEST(InsereVetor, ApostasEmOrdemCrescenteNumeradasDeUm) {
                                    "00010)   03 04 05 "};
     EXPECT_EQ(b.apostasBanco(), esperadas);
     EXPECT_EQ(b.p.e.QuantBan, 10);
-    for (int r = 0; r < 10; ++r) EXPECT_EQ(b.linhaVetBan(r) , esperadas[r].mid(9));
+    for (int r = 0; r < 10; ++r)
+        EXPECT_EQ(b.linhaVetBan(r), esperadas[r].mid(9));
     EXPECT_EQ(b.p.e.VetBan.valor(3, 0), QStringLiteral("#"));
-    EXPECT_EQ(b.p.tela.TxtBanco.texto(),
-              QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 \r\n\r\n") + esperadas.join(QStringLiteral("\r\n")) +
-                  QStringLiteral("\r\n\r\n"));
+    EXPECT_EQ(b.p.tela.TxtBanco.texto(), QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 \r\n\r\n") +
+                                             esperadas.join(QStringLiteral("\r\n")) +
+                                             QStringLiteral("\r\n\r\n"));
 }
 
 TEST(InsereVetor, CoresDasLinhas) {
@@ -246,9 +247,10 @@ TEST(InsereVetor, BlocoDeEstatisticaVerdeENegrito) {
     InsereVetor dlg(b.p);
     dlg.ativa();
     const DocumentoRico& doc = b.p.tela.TxtBanco;
-    const QString bloco = QStringLiteral("\r\nAcertando 4 dezenas pega 3 quadras.\r\n"
-                                         "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
-                                         "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras.\r\n\r\n\r\n");
+    const QString bloco =
+        QStringLiteral("\r\nAcertando 4 dezenas pega 3 quadras.\r\n"
+                       "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
+                       "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras.\r\n\r\n\r\n");
     EXPECT_TRUE(doc.texto().endsWith(QStringLiteral("00007)   02 03 04 05 06 07 \r\n") + bloco +
                                      QStringLiteral("\r\n")));
     const int64_t ini = doc.texto().indexOf(QStringLiteral("Acertando"));
@@ -332,7 +334,8 @@ TEST(InsereVetor, ApostaAlemDe81NumerosPerdeOsDeTrasEAMarcaDeFim) {
     const QStringList n = numeros(b.apostasBanco().value(0));
     EXPECT_EQ(n.size(), 85);
     EXPECT_EQ(b.p.e.VetBan.valor(81, 0), QStringLiteral("91"));
-    for (int c = 0; c <= 81; ++c) EXPECT_NE(b.p.e.VetBan.valor(c, 0), QStringLiteral("#"));
+    for (int c = 0; c <= 81; ++c)
+        EXPECT_NE(b.p.e.VetBan.valor(c, 0), QStringLiteral("#"));
     EXPECT_EQ(b.p.e.QuantBan, 1);
 }
 
@@ -351,7 +354,8 @@ TEST(InsereVetor, ApostasDeUmFechamentoLotofacilDuqueTemQuinzeSemZero) {
     Bancada b(QStringLiteral("Lotofácil"));
     b.marca({3, 17});
     gera(b, 2, true);
-    for (int i = 0; i < 40; ++i) b.d.aleatorio.enfileira(0.0f); // all drawn again
+    for (int i = 0; i < 40; ++i)
+        b.d.aleatorio.enfileira(0.0f); // all drawn again
     InsereVetor dlg(b.p);
     dlg.ativa();
     const QStringList n = numeros(b.apostasBanco().value(0));
