@@ -29,7 +29,8 @@ class Combinacoes {
     CaixaMarcar ChkEst, ChkAuto;
     bool ChkEstVisible = true, ChkAutoVisible = false;
     // Told when LblMensagem changes and when the dialog closes. The bar is
-    // module2(p).Progresso, told through module2(p).aoMudarProgresso.
+    // module2(p).Progresso, told through module2(p).aoMudarProgresso, which
+    // the form sets while the dialog is up and clears when it closes.
     std::function<void()> aoMudarMensagem;
     std::function<void()> aoFechar;
 
