@@ -13,6 +13,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 namespace sorvelo {
 
@@ -103,12 +104,17 @@ struct TelaPrincipal {
     Int16 ContAjuda, ContCancela;
 };
 
+// The module state of the combination generator (combinacoes/Module2.h).
+struct Module2;
+
 struct Programa {
     Estado e;
     TelaPrincipal tela;
     Servicos s;
     // Commands of the bet file; the file's logic installs them.
     std::function<void(Programa&)> salvarArquivo;
+    // Made on first use by module2(p); lives as long as the program.
+    std::shared_ptr<Module2> module2;
 
     Programa();
     Programa(const Programa&) = delete;

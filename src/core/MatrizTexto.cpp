@@ -4,6 +4,7 @@
 #include <array>
 #include <cstring>
 #include <new>
+#include <stdexcept>
 
 namespace sorvelo {
 
@@ -84,10 +85,10 @@ void MatrizTexto::verifica(int64_t coluna, int64_t linha) const {
         foraDoIntervalo();
 }
 
-uint8_t* MatrizTexto::reserva(Linha& l, int colunas) {
+uint8_t* MatrizTexto::reserva(Linha& l, int colunas, bool exata) {
     if (colunas <= l.capacidade) return celulas_.data() + l.inicio;
     const bool ultimaDoDeposito = l.capacidade > 0 && l.inicio + l.capacidade == celulas_.size();
-    int nova = std::max<int>(colunas, l.capacidade == 0 ? 8 : l.capacidade * 2);
+    int nova = exata ? colunas : std::max<int>(colunas, l.capacidade == 0 ? 8 : l.capacidade * 2);
     nova = std::min(nova, ultimaColuna_ + 1);
     try {
         if (ultimaDoDeposito) {
@@ -145,6 +146,30 @@ const uint8_t* MatrizTexto::celulas(int64_t linha, int& quant) const {
     const void* fim = l.tamanho ? std::memchr(p, Fim, l.tamanho) : nullptr;
     quant = fim ? int(static_cast<const uint8_t*>(fim) - p) + 1 : l.tamanho;
     return p;
+}
+
+void MatrizTexto::defineCelulas(int64_t linha, const uint8_t* codigos, int quant) {
+    if (quant <= 0) return;
+    verifica(quant - 1, linha);
+    Linha& l = linhas_[size_t(linha)];
+    // A row written whole for the first time takes just its own width.
+    uint8_t* p = reserva(l, quant, l.capacidade == 0);
+    const int antigas = std::min<int>(quant, l.tamanho);
+    for (int c = 0; c < antigas; ++c)
+        if (p[c] == Outro) outros_.erase(chave(c, linha));
+    std::memcpy(p, codigos, size_t(quant));
+    if (quant > l.tamanho) l.tamanho = uint8_t(quant);
+}
+
+void MatrizTexto::reserva(int64_t linhas, size_t bytes) {
+    try {
+        if (linhas > 0) linhas_.reserve(size_t(linhas));
+        celulas_.reserve(celulas_.size() + bytes);
+    } catch (const std::bad_alloc&) {
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
+    } catch (const std::length_error&) {
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
+    }
 }
 
 size_t MatrizTexto::bytesUsados() const {

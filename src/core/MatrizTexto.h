@@ -58,6 +58,16 @@ public:
         return celulas_.data() + l.inicio;
     }
 
+    // Bulk writing for the generators and the batch writers. The cells
+    // 0..quant-1 of a row take the given codes (numbers, "#" or empty; never
+    // Outro); the cells behind them stay as they are. A column outside the
+    // bounds is failure 9, and then nothing is written.
+    void defineCelulas(int64_t linha, const uint8_t* codigos, int quant);
+    // Room ahead of a bulk fill: for `linhas` rows in all and `bytes` more
+    // cell bytes, so that the store does not grow step by step. Changes no
+    // bound and no content.
+    void reserva(int64_t linhas, size_t bytes);
+
     // Bytes held by the store (for the memory budget).
     size_t bytesUsados() const;
 
@@ -68,7 +78,7 @@ private:
         uint8_t capacidade = 0;
     };
     void verifica(int64_t coluna, int64_t linha) const;
-    uint8_t* reserva(Linha& l, int colunas);
+    uint8_t* reserva(Linha& l, int colunas, bool exata = false);
     uint64_t chave(int64_t coluna, int64_t linha) const { return uint64_t(linha) * 256u + uint64_t(coluna); }
 
     bool temLimites_ = false;

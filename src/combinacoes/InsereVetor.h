@@ -1,0 +1,62 @@
+// The dialog "InsereVetor" as logic: it writes the rows that the generator
+// left in VetRes into VetBan and, as numbered coloured lines, into
+// TxtBanco, adding the fixed numbers or completing short bets at random.
+// The form shows LblCont and LblTotal and forwards its cancel button; all
+// the work runs when the dialog first comes to the front.
+#pragma once
+
+#include "Module2.h"
+
+#include <QStringList>
+
+#include <functional>
+
+namespace sorvelo {
+
+class InsereVetor {
+  public:
+    // The dialog's load: the size of a full bet, the highest number, the
+    // random numbers seeded from the clock.
+    explicit InsereVetor(Programa& p);
+
+    // Coming to the front: the labels, then the whole run, once.
+    void ativa();
+    // "Cancelar": Cancelado and the close of the dialog.
+    void BtnCancelar();
+    // The close, by whichever way: TxtBanco shown, VetRes shrunk.
+    void fecha();
+    bool aberto() const { return aberto_; }
+
+    void InsereVetRes(Int16 k);
+    // Writes the bet of a row of VetRes into VetBan at row QuantBan and
+    // gives its text. Each failing step is skipped, as the original did.
+    QString RetAposta(Int32 linha, Int16 k);
+    bool ExisteNaLista(Int16 r) const;
+
+    // Controls.
+    const QString Label1 = QStringLiteral("Inserindo jogos no banco de apostas...");
+    QString LblCont, LblTotal;
+    // Told when LblCont changes (every 13 bets) and when the dialog closes.
+    std::function<void(const QString&)> aoContar;
+    std::function<void()> aoFechar;
+
+    // Fields of the dialog.
+    Int16 TamanhoJogo;
+    Int16 MaiorNumero;
+    bool Iniciado = false;
+    Int32 Cont;
+    Int32 LinhaOrigem;
+
+  private:
+    void adicionaLista(const QString& item);
+    QString apostaDaLista(Int16& i);
+
+    Programa& p_;
+    QStringList LstSort; // sorted as text, as the hidden list box
+    bool aberto_ = true;
+};
+
+// The size of a full bet of the game: Mega-Sena 6, Quina 5, Lotomania 50...
+Int16 TamanhoJogoDe(const QString& nomeLoteria);
+
+} // namespace sorvelo

@@ -1,0 +1,240 @@
+#include "Module2.h"
+
+#include "../core/Module1.h"
+
+#include <algorithm>
+#include <new>
+#include <stdexcept>
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <unistd.h>
+#endif
+
+namespace sorvelo {
+
+double Fatorial(double x) {
+    if (x == 0 || x == 1) return 1;
+    double r = x;
+    r = (x - 1) * r;
+    for (;;) {
+        x = x - 1;
+        if (!(x > 1)) break;
+        r = (x - 1) * r;
+    }
+    return r;
+}
+
+double RetQuantCombinacoes(Int16 n, Int16 k) {
+    const double a = Fatorial(n.valor());
+    const double b = Fatorial(k.valor());
+    const double c = Fatorial((n - k).valor());
+    return a / (c * b);
+}
+
+Int32 ArredondaApostas(double quant) {
+    return Int32::de(quant);
+}
+
+QString TextoQuantApostas(Int32 total) {
+    return textoNumero(int64_t(total.valor()));
+}
+
+QString TextoValorApostas(Int32 total, double valorAposta) {
+    return FormataNumero(textoNumero(double(total.valor()) * valorAposta));
+}
+
+namespace {
+int64_t memoriaDaMaquina() {
+#if defined(_SC_PHYS_PAGES) && defined(_SC_PAGE_SIZE)
+    const long paginas = sysconf(_SC_PHYS_PAGES);
+    const long tamanho = sysconf(_SC_PAGE_SIZE);
+    if (paginas > 0 && tamanho > 0) return int64_t(paginas) * int64_t(tamanho);
+#endif
+    return 0;
+}
+} // namespace
+
+Module2::Module2() : limiteMemoria(memoriaDaMaquina() / 4 * 3) {}
+
+Int16& Module2::Sub(int64_t linha, int64_t coluna) {
+    if (linha < 0 || linha > UltLinhaSub || coluna < 0 || coluna > UltColunaSub) foraDoIntervalo();
+    return TabSub[size_t(linha * (UltColunaSub + 1) + coluna)];
+}
+
+uint8_t& Module2::Contado(int64_t linha) {
+    if (linha < 0 || linha >= int64_t(VetContado.size())) foraDoIntervalo();
+    return VetContado[size_t(linha)];
+}
+
+Module2& module2(Programa& p) {
+    if (!p.module2) p.module2 = std::make_shared<Module2>();
+    return *p.module2;
+}
+
+int64_t BytesPorLinha(int k) {
+    if (k < 0) k = 0;
+    // VetRes and VetBan: a row index of 16 bytes and one byte a cell (and
+    // the "#"); VetContado: one byte; the bank's text: "00001)   ", three
+    // characters a number and the line end, two bytes a character, two runs
+    // of colour and a line start of eight bytes each.
+    return (16 + k) + 1 + (16 + k + 1) + 2 * (9 + 3 * k + 2) + 3 * 8;
+}
+
+QString MensagemMemoriaInsuficiente() {
+    return QStringLiteral("A memória do computador é insuficiente para") + QChar(13) +
+           QStringLiteral("essa quantidade de combinações!");
+}
+
+namespace {
+void verificaMemoria(const Module2& m, Int32 total, Int16 k) {
+    if (m.limiteMemoria <= 0) return;
+    const int64_t linhas = int64_t(total.valor()) + 1;
+    if (linhas > m.limiteMemoria / BytesPorLinha(k.valor())) throw FalhaExecucao(erro::MemoriaInsuficiente);
+}
+
+void preparaVetRes(Programa& p, Module2& m, Int16 k, Int32 total) {
+    const int64_t linhas = int64_t(total.valor()) + 1;
+    p.e.VetRes.redimensiona(81, total.valor());
+    p.e.VetRes.reserva(linhas, size_t(linhas) * size_t(std::clamp<int>(k.valor(), 0, 82)));
+    m.VetContado.assign(size_t(linhas), 0);
+}
+} // namespace
+
+bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
+    Module2& m = module2(p);
+    try {
+        verificaMemoria(m, total, k);
+        preparaVetRes(p, m, k, total);
+        m.UltIndice = Int32(n.valor()) - 1;
+        m.UltPos = Int32(n.valor()) - 1 - k.valor();
+        for (Int32 i = 0; i <= m.UltPos; ++i) {
+            m.VetPos(i.valor()) = Int16::de(int64_t(i.valor()));
+            m.VetMax(i.valor()) = Int16::de(int64_t((m.UltIndice - (m.UltPos - i)).valor()));
+        }
+        m.LinhaRes = 0;
+        for (;;) {
+            if (GravaCombinacao(p) == 1) return true;
+            const int64_t ult = m.UltPos.valor();
+            if (m.VetPos(ult) < m.VetMax(ult)) {
+                m.VetPos(ult) += 1;
+                continue;
+            }
+            // Carry: a position that reaches its maximum here is a row as it
+            // stands, all positions to its right being at theirs already.
+            Int32 q = m.UltPos;
+            for (;;) {
+                q -= 1;
+                if (q < 0) break;
+                m.VetPos(q.valor()) += 1;
+                if (m.VetPos(q.valor()) < m.VetMax(q.valor())) break;
+                if (GravaCombinacao(p) == 1) return true;
+            }
+            for (Int32 j = q + 1; j <= m.UltPos; ++j)
+                m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
+        }
+    } catch (const FalhaExecucao&) {
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
+    p.s.caixa->critico(MensagemMemoriaInsuficiente());
+    return false;
+}
+
+int GravaCombinacao(Programa& p) {
+    Module2& m = module2(p);
+    auto& e = p.e;
+    const int64_t ultIndice = m.UltIndice.valor();
+    const int64_t ultPos = m.UltPos.valor();
+    // The bounds of the arrays read below, checked once for the row.
+    if (ultIndice >= 0) e.VetNum(ultIndice);
+    if (ultPos >= 0) m.VetPos(ultPos);
+    const Int16* num = ultIndice >= 0 ? &e.VetNum(0) : nullptr;
+    const Int16* pos = ultPos >= 0 ? &m.VetPos(0) : nullptr;
+    const int64_t linha = m.LinhaRes.valor();
+    uint8_t codigos[82];
+    int col = 0;
+    bool simples = true;
+    // The excluded positions ascend strictly, so that one walk along them
+    // answers PosicaoExcluida for every index.
+    int64_t j = 0;
+    for (int64_t idx = 0; idx <= ultIndice; ++idx) {
+        if (j <= ultPos && pos[j].valor() == idx) {
+            ++j;
+            continue;
+        }
+        if (col > 81) foraDoIntervalo();
+        const int v = num[idx].valor();
+        if (v >= 0 && v <= 99) {
+            codigos[col] = MatrizTexto::codigoNumero(v);
+        } else {
+            codigos[col] = MatrizTexto::Vazio;
+            simples = false;
+        }
+        ++col;
+    }
+    e.VetRes.defineCelulas(linha, codigos, col);
+    if (!simples) {
+        // A number that two digits cannot hold is kept as its text.
+        int c = 0;
+        j = 0;
+        for (int64_t idx = 0; idx <= ultIndice; ++idx) {
+            if (j <= ultPos && pos[j].valor() == idx) {
+                ++j;
+                continue;
+            }
+            const int v = num[idx].valor();
+            if (v < 0 || v > 99) e.VetRes.define(c, linha, formata00(v));
+            ++c;
+        }
+    }
+    m.Contado(linha) = 0;
+    m.LinhaRes += 1;
+    AvancaProgresso(p);
+    return m.VetPos(0) >= m.VetMax(0) ? 1 : 0;
+}
+
+bool PosicaoExcluida(Programa& p, Int32 idx) {
+    Module2& m = module2(p);
+    for (Int32 i = 0; i <= m.UltPos; ++i)
+        if (m.VetPos(i.valor()) == int64_t(idx.valor())) return true;
+    return false;
+}
+
+namespace {
+void mostraProgresso(Module2& m) {
+    if (m.aoMudarProgresso) m.aoMudarProgresso(m.Progresso);
+}
+// The bar refuses a value outside its range; the routine goes on.
+void defineValorBarra(Module2& m, int32_t valor) {
+    if (valor < m.Progresso.Min || float(valor) > m.Progresso.Max) return;
+    m.Progresso.Value = valor;
+    mostraProgresso(m);
+}
+} // namespace
+
+void IniciaProgresso(Programa& p, Int32 total) {
+    Module2& m = module2(p);
+    m.PeriodoProgresso = total >= 1000 ? 100 : 1;
+    m.Progresso.Min = 0;
+    const float maximo = float(double(total.valor()) / double(m.PeriodoProgresso.valor()) + 1);
+    if (maximo > float(m.Progresso.Min)) m.Progresso.Max = maximo;
+    m.Progresso.Value = 0;
+    mostraProgresso(m);
+    m.ValorProgresso = 0;
+}
+
+void AvancaProgresso(Programa& p) {
+    Module2& m = module2(p);
+    p.s.cedencia->cede();
+    // With no period set yet the test itself fails, and the failure goes on
+    // into the statement that it guards.
+    const int periodo = m.PeriodoProgresso.valor();
+    if (periodo == 0 || m.ContProgresso.valor() % periodo == 0) {
+        m.ValorProgresso += 1;
+        defineValorBarra(m, m.ValorProgresso.valor());
+    }
+    m.ContProgresso += 1;
+    if (m.ContProgresso == 1000) m.ContProgresso = 0;
+}
+
+} // namespace sorvelo

@@ -1,0 +1,395 @@
+// The full combination flow, from "Iniciar Combinação completa" to the bank,
+// with the dialogs driven as a user would and a fixed clock.
+#include "ApoioCombinacao.h"
+
+#include <gtest/gtest.h>
+
+using namespace sorvelo;
+using namespace sorvelo::teste;
+
+namespace {
+const QString LinhaSeteASeis = Agora + QStringLiteral(": Combinação de 07 números  de 06 em 06\r\n");
+}
+
+TEST(FluxoCombinacao, SemNumerosMarcadosAvisaENadaMais) {
+    Bancada b;
+    b.p.e.Cancelado = true;
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
+    EXPECT_EQ(b.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Informacao);
+    EXPECT_EQ(b.d.caixa.vistas()[0].texto, QStringLiteral("Favor selecionar os números a combinar"));
+    EXPECT_EQ(r.vezesCombinacoes, 0);
+    EXPECT_FALSE(b.p.e.Cancelado);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+}
+
+TEST(FluxoCombinacao, SoFixosNaoBastam) {
+    Bancada b;
+    b.fixa({1, 2, 3});
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(r.vezesCombinacoes, 0);
+    EXPECT_EQ(b.d.caixa.vistas().size(), 1u);
+}
+
+TEST(FluxoCombinacao, DaGradeAoBanco) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    b.dezenasPorAposta(6);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(r.lblTotAp, QStringLiteral(" 7"));
+    EXPECT_EQ(r.lblValAp, QStringLiteral("31,50"));
+    EXPECT_EQ(b.p.e.Historico, LinhaSeteASeis);
+    const QString esperado = QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 07 \r\n") +
+                             LinhaSeteASeis +
+                             QStringLiteral("\r\n"
+                                            "00001)   01 02 03 04 05 06 \r\n"
+                                            "00002)   01 02 03 04 05 07 \r\n"
+                                            "00003)   01 02 03 04 06 07 \r\n"
+                                            "00004)   01 02 03 05 06 07 \r\n"
+                                            "00005)   01 02 04 05 06 07 \r\n"
+                                            "00006)   01 03 04 05 06 07 \r\n"
+                                            "00007)   02 03 04 05 06 07 \r\n"
+                                            "\r\n");
+    EXPECT_EQ(b.p.tela.TxtBanco.texto(), esperado);
+    EXPECT_EQ(b.p.e.QuantBan, 7);
+    EXPECT_TRUE(b.d.caixa.vistas().empty()) << "banco vazio: nada a perguntar";
+    EXPECT_EQ(ContaNumeros(b.p), 7) << "a grade fica marcada";
+    EXPECT_FALSE(r.caretNoFim);
+    EXPECT_FALSE(b.p.e.ModoReduzido);
+    // Timer1 shows the count and the price within three ticks.
+    for (int i = 0; i < 3; ++i)
+        TickTimer1(b.p);
+    EXPECT_EQ(b.p.tela.TxtQuantApostas.Text, QStringLiteral(" 7"));
+    EXPECT_EQ(b.p.tela.TxtValorApostas.Text, QStringLiteral("31,50"));
+}
+
+TEST(FluxoCombinacao, DialogoMostraEstatisticaForaDoFechamento) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    r.iniciar = false;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_TRUE(r.chkEstVisivel);
+    EXPECT_FALSE(r.chkAutoVisivel);
+    EXPECT_TRUE(r.chkEstHabilitado);
+}
+
+TEST(FluxoCombinacao, DezenasPorApostaAcimaDasEscolhidasDaCabecalhoSemAposta) {
+    Bancada b;
+    b.marcaFaixa(1, 5);
+    b.dezenasPorAposta(6);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(r.lblTotAp, QStringLiteral(" 0"));
+    EXPECT_EQ(r.lblValAp, QStringLiteral("0,00"));
+    EXPECT_EQ(r.vezesInsere, 1);
+    EXPECT_EQ(b.p.tela.TxtBanco.texto(),
+              QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 \r\n") + Agora +
+                  QStringLiteral(": Combinação de 05 números  de 06 em 06\r\n\r\n\r\n"));
+    EXPECT_EQ(b.p.e.QuantBan, 0);
+}
+
+TEST(FluxoCombinacao, DezenasPorApostaIgualAsEscolhidasDaUmaAposta) {
+    Bancada b;
+    b.marca({4, 8, 15, 16, 23, 42});
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   04 08 15 16 23 42 ")});
+}
+
+TEST(FluxoCombinacao, ZeroDezenasPorApostaDaUmaApostaVazia) {
+    Bancada b;
+    b.marcaFaixa(1, 4);
+    b.dezenasPorAposta(0);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(r.lblTotAp, QStringLiteral(" 1"));
+    EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   ")});
+    EXPECT_EQ(b.p.e.VetBan.valor(0, 0), QStringLiteral("#"));
+    EXPECT_EQ(b.p.e.QuantBan, 1);
+}
+
+TEST(FluxoCombinacao, FixosEntramEmTodasAsApostas) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    b.fixa({59, 60});
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    const QStringList apostas = b.apostasBanco();
+    ASSERT_EQ(apostas.size(), 7);
+    EXPECT_EQ(apostas[0], QStringLiteral("00001)   01 02 03 04 05 06 59 60 "));
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().startsWith(
+        QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 07 59 60 \r\n")));
+}
+
+TEST(FluxoCombinacao, EstatisticaSegueAsApostasECaretVaiAoFim) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    r.estatistica = true;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_TRUE(b.p.e.ComEstatistica);
+    EXPECT_TRUE(r.caretNoFim);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().endsWith(
+        QStringLiteral("00007)   02 03 04 05 06 07 \r\n\r\n"
+                       "Acertando 4 dezenas pega 3 quadras.\r\n"
+                       "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
+                       "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras.\r\n\r\n\r\n\r\n")));
+    // One yield before the generation, 7 rows, one before the count, 6 x 7.
+    EXPECT_EQ(b.d.cedencia.quantas, 1 + 7 + 1 + 42);
+}
+
+TEST(FluxoCombinacao, MensagensDoDialogoDuranteAExecucao) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    r.iniciar = false;
+    JanelasCombinacao j = janelasRoteirizadas(r);
+    QStringList mensagens;
+    j.mostraCombinacoes = [&](Programa& p) {
+        Combinacoes dlg(p);
+        dlg.aoMudarMensagem = [&] { mensagens << dlg.LblMensagem; };
+        dlg.clicaEstatistica();
+        dlg.BtnIniciar();
+        EXPECT_FALSE(dlg.aberto());
+    };
+    BtnIniciar(b.p, j);
+    EXPECT_EQ(mensagens, (QStringList{QStringLiteral("Efetuando combinações..."),
+                                      QStringLiteral("Fazendo estatística de acertos..."), QString()}));
+}
+
+TEST(FluxoCombinacao, BarraComSeisVezesOTotalNaEstatistica) {
+    Bancada b;
+    b.marcaFaixa(1, 20); // 38760 bets
+    Roteiro r;
+    r.estatistica = true;
+    float maximoNaContagem = 0;
+    b.d.cedencia.aoCeder = [&](long long) {
+        if (b.p.e.ComEstatistica) maximoNaContagem = module2(b.p).Progresso.Max;
+    };
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(maximoNaContagem, float(38760.0 * 6 / 100 + 1));
+}
+
+TEST(FluxoCombinacao, LotofacilNaoDeixaMarcarEstatistica) {
+    Bancada b(QStringLiteral("Lotofácil"));
+    b.marcaFaixa(1, 16);
+    b.dezenasPorAposta(15);
+    Roteiro r;
+    r.estatistica = true;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_FALSE(r.chkEstHabilitado);
+    EXPECT_FALSE(b.p.e.ComEstatistica);
+    EXPECT_FALSE(r.caretNoFim);
+    EXPECT_EQ(b.apostasBanco().size(), 16);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().endsWith(QStringLiteral(" \r\n\r\n")));
+}
+
+TEST(FluxoCombinacao, LotomaniaTambemNao) {
+    Bancada b(QStringLiteral("Lotomania"));
+    b.marcaFaixa(0, 50);
+    Roteiro r;
+    r.estatistica = true;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_FALSE(r.chkEstHabilitado);
+    EXPECT_FALSE(b.p.e.ComEstatistica);
+    EXPECT_EQ(b.apostasBanco().size(), 51);
+}
+
+TEST(FluxoCombinacao, BancoComApostasPerguntaSeLimpa) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
+    const CaixaVista& v = b.d.caixa.vistas()[0];
+    EXPECT_EQ(v.texto, QStringLiteral("Limpar o banco de apostas para inserir os novos jogos?"));
+    EXPECT_EQ(v.tipo, CaixaVista::Tipo::Pergunta);
+    EXPECT_EQ(v.botoes, Botoes::SimNao);
+    EXPECT_EQ(v.padrao, Resposta::Nao);
+}
+
+TEST(FluxoCombinacao, NaoAcrescentaSegundoBlocoNumeradoDeNovo) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    b.d.caixa.responde(Resposta::Nao);
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    const QStringList apostas = b.apostasBanco();
+    ASSERT_EQ(apostas.size(), 14);
+    EXPECT_TRUE(apostas[6].startsWith(QStringLiteral("00007)")));
+    EXPECT_TRUE(apostas[7].startsWith(QStringLiteral("00001)")));
+    EXPECT_EQ(b.p.e.QuantBan, 14);
+    // The second head carries both log lines.
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().contains(
+        QStringLiteral("\r\n\r\nDezenas escolhidas: 01 02 03 04 05 06 07 \r\n") + LinhaSeteASeis +
+        LinhaSeteASeis + QStringLiteral("\r\n00001)")));
+    for (int i = 0; i < 3; ++i)
+        TickTimer1(b.p);
+    EXPECT_EQ(b.p.tela.TxtQuantApostas.Text, QStringLiteral(" 14"));
+    EXPECT_EQ(b.p.tela.TxtValorApostas.Text, QStringLiteral("63,00"));
+}
+
+TEST(FluxoCombinacao, SimEsvaziaOBancoAntes) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    b.d.caixa.responde(Resposta::Sim); // clear the bank
+    b.d.caixa.responde(Resposta::Nao); // do not save
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    ASSERT_EQ(b.d.caixa.vistas().size(), 2u);
+    EXPECT_EQ(b.d.caixa.vistas()[1].texto, QStringLiteral("Deseja salvar as apostas atuais?"));
+    EXPECT_EQ(b.p.e.QuantBan, 7);
+    EXPECT_EQ(b.apostasBanco().size(), 7);
+    // The emptying started the log anew, after the dialog had written to it.
+    EXPECT_EQ(b.p.tela.TxtBanco.texto().section(QStringLiteral("\r\n"), 0, 1),
+              QStringLiteral("Dezenas escolhidas: \r\n") + Agora +
+                  QStringLiteral(": Limpou banco de apostas"));
+}
+
+TEST(FluxoCombinacao, CancelarAntesDeIniciarNaoTocaNoBanco) {
+    Bancada b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    r.iniciar = false;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+    EXPECT_TRUE(b.p.e.Historico.isEmpty());
+    EXPECT_EQ(ContaNumeros(b.p), 7);
+}
+
+TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
+    Bancada b;
+    b.marcaFaixa(1, 10); // 210 rows
+    Roteiro r;
+    r.estatistica = true;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 50) r.combinacoes->BtnCancelar();
+    };
+    Module2& m = module2(b.p);
+    m.QuantQuadras(0) = 1234;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(m.LinhaRes, 210) << "o gerador vai até a última linha";
+    EXPECT_EQ(b.d.cedencia.quantas, 1 + 210) << "sem contagem de acertos";
+    EXPECT_EQ(m.QuantQuadras(0), 1234);
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+    EXPECT_EQ(b.p.e.Historico, Agora + QStringLiteral(": Combinação de 10 números  de 06 em 06\r\n"));
+}
+
+TEST(FluxoCombinacao, CancelarDuranteAContagemNaoLevaNadaAoBanco) {
+    Bancada b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    r.estatistica = true;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 300) r.combinacoes->BtnCancelar();
+    };
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_EQ(b.d.cedencia.quantas, 1 + 210 + 1 + 6 * 210) << "a contagem vai até o fim";
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+}
+
+TEST(FluxoCombinacao, Timer1ApagaOCancelamentoEOFluxoSegue) {
+    Bancada b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    // Every yield lasts one tick of Timer1; the cancel comes at yield 40 and
+    // the 62nd tick clears it before the generator ends.
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 40 && r.combinacoes) r.combinacoes->BtnCancelar();
+        TickTimer1(b.p);
+    };
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_FALSE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 1);
+    EXPECT_EQ(b.p.e.QuantBan, 210);
+}
+
+TEST(FluxoCombinacao, CancelamentoPertoDoFimSobrevive) {
+    Bancada b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 200 && r.combinacoes) r.combinacoes->BtnCancelar();
+        TickTimer1(b.p);
+    };
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_EQ(b.p.e.QuantBan, 0);
+}
+
+TEST(Timer1, ApagaCanceladoACada31Tiques) {
+    Bancada b;
+    b.p.e.Cancelado = true;
+    for (int i = 0; i < 30; ++i)
+        TickTimer1(b.p);
+    EXPECT_TRUE(b.p.e.Cancelado);
+    TickTimer1(b.p);
+    EXPECT_FALSE(b.p.e.Cancelado);
+    b.p.e.Cancelado = true;
+    for (int i = 0; i < 30; ++i)
+        TickTimer1(b.p);
+    EXPECT_TRUE(b.p.e.Cancelado);
+    TickTimer1(b.p);
+    EXPECT_FALSE(b.p.e.Cancelado);
+}
+
+TEST(FluxoCombinacao, CancelarNaInsercaoDepoisDe26Apostas) {
+    Bancada b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    r.estatistica = true;
+    b.d.cedencia.aoCeder = [&](long long) {
+        if (r.insere && b.p.e.QuantBan == 26) r.insere->BtnCancelar();
+    };
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    const QStringList apostas = b.apostasBanco();
+    ASSERT_EQ(apostas.size(), 26);
+    EXPECT_TRUE(apostas.last().startsWith(QStringLiteral("00026)")));
+    EXPECT_EQ(b.p.e.QuantBan, 26);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().contains(QStringLiteral("Acertando 6 dezenas pega 1 sena")));
+    EXPECT_TRUE(b.p.tela.TxtBanco.visivel());
+    EXPECT_EQ(b.p.e.VetRes.ultimaLinha(), 1);
+}
+
+TEST(FluxoCombinacao, FalhaDeMemoriaTerminaComoCancelamento) {
+    Bancada b;
+    b.marcaFaixa(1, 20);
+    module2(b.p).limiteMemoria = 4096;
+    Roteiro r;
+    BtnIniciar(b.p, janelasRoteirizadas(r));
+    ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
+    EXPECT_EQ(b.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Critico);
+    EXPECT_EQ(b.d.caixa.vistas()[0].texto,
+              QStringLiteral("A memória do computador é insuficiente para\ressa quantidade de combinações!"));
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+}
+
+TEST(FluxoCombinacao, ContagemAlemDe32BitsParaOPrograma) {
+    Bancada b(QStringLiteral("Lotomania"));
+    b.marcaFaixa(0, 59);
+    b.dezenasPorAposta(30);
+    Roteiro r;
+    try {
+        BtnIniciar(b.p, janelasRoteirizadas(r));
+        FAIL() << "sem falha";
+    } catch (const FalhaExecucao& f) {
+        EXPECT_EQ(f.numero(), erro::Estouro);
+    }
+    EXPECT_EQ(r.vezesCombinacoes, 0);
+}
