@@ -1,5 +1,6 @@
 #include "Sorvelo.h"
 
+#include "Combinacoes.h"
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
@@ -109,6 +110,13 @@ template <typename F> void Sorvelo::age(F f) {
 
 void Sorvelo::trocaJogo(const QString& nome) {
     TrocaLoteria(p_, nome);
+}
+
+JanelasCombinacao Sorvelo::janelasComb() {
+    return janelasCombinacao(this, [this] {
+        sincroniza();
+        txtBanco_->rolaParaFim();
+    });
 }
 
 void Sorvelo::abreConferencia() {
@@ -305,6 +313,7 @@ void Sorvelo::montaQuadrosCombinacao() {
     auto* iniciar = poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")), frame2_, "BtnIniciar",
                         2760, 330, 2655, 435);
     iniciar->setToolTip(QStringLiteral("Faz uma combinação para fazer o fechamento dos números escolhidos"));
+    liga(iniciar, &QPushButton::clicked, [this] { BtnIniciar(p_, janelasComb()); });
 
     frame5_ = poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280,
                   5655, 1695);
@@ -371,6 +380,7 @@ void Sorvelo::montaQuadroOpcoes() {
     liga(cmbFecha_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbFecha.Text = t; });
     btnFechar_ = poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240,
                      2655, 375);
+    liga(btnFechar_, &QPushButton::clicked, [this] { BtnFechar(p_, janelasComb()); });
     auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_,
                         "BtnSortear", 240, 600, 2535, 330);
     auto* jogoAJogo =

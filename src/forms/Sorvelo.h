@@ -28,6 +28,7 @@ namespace sorvelo {
 class AreaRica;
 class ConfApostas;
 class JanelaConfApostas;
+struct JanelasCombinacao;
 class BotaoGiro;
 class CelulaNumero;
 class Figura;
@@ -77,6 +78,7 @@ class Sorvelo : public QMainWindow {
     }
     void trocaJogo(const QString& nome);
     void abreConferencia();
+    JanelasCombinacao janelasComb();
     void aplicaLayout();
 
     Programa& p_;

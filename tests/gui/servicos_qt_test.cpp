@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -84,6 +85,21 @@ TEST(ServicosQt, CedenciaProcessaOsEventosPendentes) {
     CedenciaQt cedencia;
     cedencia.cede();
     EXPECT_TRUE(rodou);
+}
+
+TEST(ServicosQt, CedenciasSeguidasSoRodamOLacoDepoisDoIntervalo) {
+    CedenciaQt cedencia(50);
+    cedencia.cede();
+    int rodou = 0;
+    QTimer::singleShot(0, [&] { ++rodou; });
+    cedencia.cede();
+    EXPECT_EQ(rodou, 0) << "a yield right after another is only a clock read";
+    QElapsedTimer espera;
+    espera.start();
+    while (espera.elapsed() < 60) {
+    }
+    cedencia.cede();
+    EXPECT_EQ(rodou, 1);
 }
 
 TEST(ServicosQt, FalhaNoTopoChegaAoTratadorInstalado) {

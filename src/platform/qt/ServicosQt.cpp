@@ -115,7 +115,11 @@ void ImpressoraQt::fim() {
     t_ = nullptr;
 }
 
-void CedenciaQt::cede() { QCoreApplication::processEvents(); }
+void CedenciaQt::cede() {
+    if (desde_.isValid() && desde_.elapsed() < intervaloMs_) return;
+    QCoreApplication::processEvents();
+    desde_.start();
+}
 
 void AbridorQt::abre(const QString& endereco) {
     const QUrl url = endereco.contains(u':') && !endereco.startsWith(u'/') ? QUrl(endereco)

@@ -3,6 +3,7 @@
 
 #include "../Servicos.h"
 
+#include <QElapsedTimer>
 #include <QString>
 
 class QWidget;
@@ -43,9 +44,17 @@ public:
     QDateTime agora() override { return QDateTime::currentDateTime(); }
 };
 
+// Runs the message loop when some milliseconds have passed since it last
+// ran: the dialogs stay responsive while a loop of millions of yields pays
+// for a clock read on most of them.
 class CedenciaQt : public Cedencia {
 public:
+    explicit CedenciaQt(int intervaloMs = 10) : intervaloMs_(intervaloMs) {}
     void cede() override;
+
+private:
+    int intervaloMs_;
+    QElapsedTimer desde_;
 };
 
 class AbridorQt : public Abridor {
