@@ -37,8 +37,9 @@ void MatrizTexto::redimensiona(int64_t ultimaColuna, int64_t ultimaLinha) {
     if (ultimaColuna < 0 || ultimaLinha < 0) foraDoIntervalo();
     if (ultimaColuna >= ColunasMaximas || ultimaLinha > INT32_MAX) throw FalhaExecucao(erro::MemoriaInsuficiente);
     try {
-        linhas_.clear();
-        celulas_.clear();
+        // The memory of a large array goes back at once.
+        std::vector<Linha>().swap(linhas_);
+        std::vector<uint8_t>().swap(celulas_);
         outros_.clear();
         linhas_.resize(size_t(ultimaLinha) + 1);
     } catch (const std::bad_alloc&) {

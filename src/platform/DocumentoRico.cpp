@@ -22,8 +22,9 @@ void DocumentoRico::mudou() {
 
 void DocumentoRico::defineTexto(const QString& texto) {
     texto_ = texto;
-    trechos_.clear();
-    iniciosLinha_.assign(1, 0);
+    // A rewrite gives back the memory of a large document.
+    std::vector<uint64_t>().swap(trechos_);
+    std::vector<int64_t>{0}.swap(iniciosLinha_);
     if (!texto_.isEmpty()) trechos_.push_back(uint64_t(indiceFormato(formatoPadrao)));
     indexaLinhas(0);
     ++geracao_;
