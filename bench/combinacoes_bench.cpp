@@ -12,6 +12,8 @@
 #include "core/Principal.h"
 #include "platform/Duplos.h"
 
+#include "platform/qt/ServicosQt.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -86,14 +88,10 @@ volatile unsigned long long lixo = 0;
 
 const Cedencias Barata{"barata", [] { lixo = lixo + 1; }};
 const Cedencias Eventos{"processEvents", [] { QCoreApplication::processEvents(); }};
-// A yield that goes to the message loop only when 10 ms have passed since
-// the last: as responsive to the eye, a fraction of the cost.
-const Cedencias EventosEspacados{"processEvents a cada 10 ms", [] {
-                                     static QElapsedTimer t;
-                                     if (!t.isValid() || t.elapsed() >= 10) {
-                                         QCoreApplication::processEvents();
-                                         t.start();
-                                     }
+// The program's own yield: the message loop at most every 10 ms.
+const Cedencias EventosEspacados{"CedenciaQt (laço a cada 10 ms)", [] {
+                                     static CedenciaQt cedencia;
+                                     cedencia.cede();
                                  }};
 
 struct Cenario {
