@@ -342,4 +342,37 @@ TEST_F(JanelaPrincipal, MarcasDeAjudaAparecemEDesaparecem) {
     EXPECT_FALSE(controle(QStringLiteral("HelpRotina(0)"))->isVisible());
 }
 
+TEST_F(JanelaPrincipal, FiguraDeSortearAfundaAoApertarEVoltaAoSoltar) {
+    auto* figura = controle(QStringLiteral("PicSort1"));
+    const QPoint repouso(janela->tw(240), janela->tw(3000));
+    EXPECT_EQ(figura->pos(), repouso);
+    QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
+                       Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(figura, &aperta);
+    EXPECT_EQ(figura->pos(), QPoint(janela->tw(260), janela->tw(3020)));
+    QMouseEvent solta(QEvent::MouseButtonRelease, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(figura, &solta);
+    EXPECT_EQ(figura->pos(), repouso);
+    QMouseEvent move(QEvent::MouseMove, QPointF(4, 4), figura->mapToGlobal(QPointF(4, 4)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(figura, &move);
+    EXPECT_EQ(p.tela.PicSort1Imagem, 2) << "the picture of PicSort2 under the mouse";
+}
+
+TEST_F(JanelaPrincipal, CliqueNaAreaDeTrabalhoEscondeAsMarcasDeAjuda) {
+    auto* quadro = controle(QStringLiteral("Frame3"));
+    QMouseEvent move(QEvent::MouseMove, QPointF(10, 10), quadro->mapToGlobal(QPointF(10, 10)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(quadro, &move);
+    EXPECT_TRUE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
+    EXPECT_TRUE(controle(QStringLiteral("HelpRotina(2)"))->isVisible());
+    EXPECT_FALSE(controle(QStringLiteral("HelpRotina(3)"))->isVisible());
+    auto* area = controle(QStringLiteral("PicLoteria"));
+    QMouseEvent clique(QEvent::MouseButtonPress, QPointF(5, 5), area->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                       Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(area, &clique);
+    EXPECT_FALSE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
+}
+
 } // namespace
