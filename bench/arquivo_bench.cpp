@@ -75,14 +75,15 @@ int main() {
         Sessao s;
         auto t = Cronometro::now();
         montaBanco(s.p, 1000000);
-        std::printf("montagem do banco de 1.000.000 apostas: %.3f s (não faz parte da medida)\n", segundos(t));
+        std::printf("montagem do banco de 1.000.000 apostas: %.3f s (não faz parte da medida)\n",
+                    segundos(t));
         const QString nome = pasta.filePath(QStringLiteral("milhao.Apo"));
         s.d.dialogo.enfileira(nome);
         t = Cronometro::now();
         SalvarArquivoComo(s.p);
         const double gravar = segundos(t);
-        std::printf("salvar 1.000.000 apostas (RTF incluído): %.3f s, arquivo de %.1f MB (meta: <= 2 s)\n", gravar,
-                    double(QFileInfo(nome).size()) / 1e6);
+        std::printf("salvar 1.000.000 apostas (RTF incluído): %.3f s, arquivo de %.1f MB (meta: <= 2 s)\n",
+                    gravar, double(QFileInfo(nome).size()) / 1e6);
         QFile::remove(nome);
     }
 

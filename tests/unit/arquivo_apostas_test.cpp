@@ -709,6 +709,11 @@ TEST_F(ArquivoApostas, SalvarEmPastaInexistenteTerminaOPrograma) {
     EXPECT_EQ(falhaDe([&] { a.salvaComo(caminho(u("nao/ha/pasta.Apo"))); }), erro::CaminhoNaoEncontrado);
 }
 
+TEST_F(ArquivoApostas, AbrirUmaPastaTerminaOPrograma) {
+    EXPECT_EQ(falhaDe([&] { a.abre(dir.path()); }), erro::AcessoCaminho);
+    EXPECT_EQ(a.p.tela.Caption, u("Sorvelo - ") + dir.path());
+}
+
 TEST_F(ArquivoApostas, AbrirPedeNomeComTituloEFiltroEMudaOTitulo) {
     auto& p = a.p;
     montaCenario(p, cenarios()[4]);
