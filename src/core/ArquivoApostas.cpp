@@ -1,0 +1,329 @@
+#include "ArquivoApostas.h"
+
+#include "BancoApostas.h"
+#include "Cp1252.h"
+#include "Grade.h"
+#include "Loteria.h"
+#include "Module1.h"
+#include "Rtf.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <string>
+
+namespace sorvelo {
+
+int64_t LimiteTextoArquivo = LimiteTextoArquivoPadrao;
+
+namespace {
+
+const QString TituloSalvar = QStringLiteral("Salvar arquivo de apostas");
+const QString TituloAbrir = QStringLiteral("Abrir arquivo de apostas");
+const QString Filtro = QStringLiteral("Arquivo de apostas (*.Apo)|*.Apo;");
+const QString PerguntaSobrescrever = QStringLiteral("Este nome de arquivo já existe! Deseja sobrescrever?");
+
+constexpr int TamanhoComprimento = 10;
+// The position of CarregaVetBan is a signed 16-bit value: it never reads a
+// character past this one.
+constexpr int64_t UltimaPosicaoVetBan = 32767;
+
+// The failure of a file that cannot be opened.
+[[noreturn]] void falhaAbertura(const QString& nome) {
+    if (nome.isEmpty()) throw FalhaExecucao(erro::NomeArquivoInvalido);
+    if (!QFileInfo(nome).absoluteDir().exists()) throw FalhaExecucao(erro::CaminhoNaoEncontrado);
+    throw FalhaExecucao(erro::AcessoCaminho);
+}
+
+[[noreturn]] void falhaEscrita(const QFile& arquivo) {
+    throw FalhaExecucao(arquivo.error() == QFileDevice::ResourceError ? erro::DiscoCheio
+                                                                      : erro::ErroEntradaSaida);
+}
+
+// ------------------------------------------------------------ writing
+
+std::string bytesVetBan(const Programa& p) {
+    const MatrizTexto& v = p.e.VetBan;
+    std::string s;
+    const int64_t quant = p.e.QuantBan.valor();
+    try {
+        s.reserve(size_t(std::max<int64_t>(quant, 0)) * 13);
+        for (int64_t linha = 0; linha < quant; ++linha) {
+            int n = 0;
+            const uint8_t* c = v.celulas(linha, n);
+            // With no "#" the walk runs off the row's columns.
+            if (n == 0 || c[n - 1] != MatrizTexto::Fim) foraDoIntervalo();
+            for (int k = 0; k < n - 1; ++k) {
+                const uint8_t codigo = c[k];
+                if (codigo >= MatrizTexto::PrimeiroNumero && codigo < MatrizTexto::PrimeiroNumero + 100) {
+                    const int numero = codigo - MatrizTexto::PrimeiroNumero;
+                    s += char('0' + numero / 10);
+                    s += char('0' + numero % 10);
+                } else if (codigo == MatrizTexto::Outro) {
+                    s += cp1252::codifica(v.valor(k, linha)).toStdString();
+                }
+            }
+            s += '#';
+        }
+    } catch (const std::bad_alloc&) {
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
+    }
+    return s;
+}
+
+QString textoDasCelulas(const Programa& p, Cor fundo) {
+    QString s;
+    for (int i = 0; i <= 99; ++i)
+        if (p.tela.Num(i).BackColor == fundo) s += p.tela.Num(i).Text;
+    return s;
+}
+
+class Gravador {
+  public:
+    explicit Gravador(QFile& arquivo) : arquivo_(arquivo) {}
+    void campo(const char* dados, int64_t tamanho) {
+        char comprimento[TamanhoComprimento];
+        std::memset(comprimento, ' ', sizeof comprimento);
+        const QByteArray digitos = QByteArray::number(qlonglong(tamanho));
+        std::memcpy(comprimento, digitos.constData(), size_t(digitos.size()));
+        escreve(comprimento, TamanhoComprimento);
+        posicao_ += TamanhoComprimento;
+        escreve(dados, tamanho);
+        posicao_ += tamanho;
+    }
+    void campo(const QByteArray& b) { campo(b.constData(), b.size()); }
+    void campo(const std::string& b) { campo(b.data(), int64_t(b.size())); }
+    void campo(const QString& texto) { campo(cp1252::codifica(texto)); }
+
+  private:
+    void escreve(const char* dados, int64_t tamanho) {
+        if (tamanho > 0 && arquivo_.write(dados, tamanho) != tamanho) falhaEscrita(arquivo_);
+    }
+    QFile& arquivo_;
+    Int32 posicao_ = 1;
+};
+
+// ------------------------------------------------------------ reading
+
+// Reads the fields one after the other. A byte past the end of the file
+// reads as a blank, as the blank-filled buffer of the read is left there.
+class Leitor {
+  public:
+    explicit Leitor(QFile& arquivo) : arquivo_(arquivo), tamanho_(arquivo.size()) {}
+
+    QByteArray campo() {
+        const QByteArray comprimento = bytes(TamanhoComprimento);
+        posicao_ += TamanhoComprimento;
+        const Int32 n = Int32::de(valorNumerico(cp1252::decodifica(comprimento)));
+        if (n < 0) throw FalhaExecucao(erro::ChamadaInvalida);
+        if (n > LimiteTextoArquivo) throw FalhaExecucao(erro::MemoriaInsuficiente);
+        QByteArray texto = bytes(n.valor());
+        posicao_ += n.valor();
+        return texto;
+    }
+    QString texto() { return cp1252::decodifica(campo()); }
+
+  private:
+    QByteArray bytes(int64_t n) {
+        QByteArray r;
+        try {
+            r = QByteArray(n, ' ');
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
+        const int64_t inicio = int64_t(posicao_.valor()) - 1;
+        if (n > 0 && inicio < tamanho_ && arquivo_.seek(inicio))
+            arquivo_.read(r.data(), std::min(n, tamanho_ - inicio));
+        return r;
+    }
+    QFile& arquivo_;
+    int64_t tamanho_;
+    Int32 posicao_ = 1;
+};
+
+// The numeric value of the two characters at i (1-based), as an integer.
+Int16 valorPar(const QString& texto, int64_t i) {
+    const QChar a = texto[i - 1];
+    const QChar b = i < texto.size() ? texto[i] : QChar();
+    if (a >= u'0' && a <= u'9' && b >= u'0' && b <= u'9')
+        return Int16(int16_t((a.unicode() - u'0') * 10 + (b.unicode() - u'0')));
+    return Int16::de(valorNumerico(texto.mid(i - 1, 2)));
+}
+
+// The marks of fields 2 and 11, each on the cell of the number one lower.
+void carregaMarcas(Programa& p, const QString& Texto, Cor fundo, bool pulaFalhas) {
+    for (int64_t i = 1; i < Texto.size(); i += 2) {
+        const Int16 v = valorPar(Texto, i);
+        const int64_t indice = int64_t(v.valor()) - 1;
+        if (pulaFalhas && (indice < 0 || indice >= TelaPrincipal::QuantCelulas))
+            continue; // both statements fail
+        Celula& c = p.tela.Num(indice);
+        c.BackColor = fundo;
+        c.ForeColor = p.e.CorTextoMarcado;
+    }
+}
+
+void defineSpin(Spin& spin, CampoTexto& campo, const QString& texto) {
+    campo.Text = texto;
+    const int valor = Int16::de(valorNumerico(texto)).valor();
+    if (valor == spin.Value) return;
+    spin.Value = valor;
+    MudaSpin(spin, campo); // the spin button's change
+}
+
+} // namespace
+
+QString TextoMarcados(const Programa& p) {
+    return textoDasCelulas(p, p.e.CorMarcado);
+}
+QString TextoFixos(const Programa& p) {
+    return textoDasCelulas(p, p.e.CorFixo);
+}
+
+QString TextoVetBan(const Programa& p) {
+    const std::string b = bytesVetBan(p);
+    return cp1252::decodifica(b.data(), int64_t(b.size()));
+}
+
+void CarregaMarcados(Programa& p, const QString& Texto) {
+    carregaMarcas(p, Texto, p.e.CorMarcado, true);
+}
+void CarregaFixos(Programa& p, const QString& Texto) {
+    carregaMarcas(p, Texto, p.e.CorFixo, false);
+}
+
+void CarregaVetBan(Programa& p, const QString& Texto) {
+    auto& e = p.e;
+    // Every row takes at least one character and the 16-bit position stops
+    // the reading at character 32767, so no bank of 32767 rows or more can be
+    // read back: the rows past that are never reached and are not allocated.
+    const Int32 ultimaLinha = e.QuantBan + 1;
+    e.VetBan.redimensiona(81, std::min<int64_t>(ultimaLinha.valor(), UltimaPosicaoVetBan));
+    const int64_t tamanho = Texto.size();
+    const auto caractere = [&](int64_t i) { return i <= tamanho ? Texto[i - 1] : QChar(); };
+    Int16 posicao = 1;
+    for (int64_t linha = 0; linha < e.QuantBan.valor(); ++linha) {
+        Int16 coluna = 0;
+        while (caractere(posicao.valor()) != u'#') {
+            const int64_t i = posicao.valor();
+            const QChar a = caractere(i), b = caractere(i + 1);
+            if (a >= u'0' && a <= u'9' && b >= u'0' && b <= u'9')
+                e.VetBan.defineCodigo(
+                    coluna.valor(), linha,
+                    MatrizTexto::codigoNumero((a.unicode() - u'0') * 10 + (b.unicode() - u'0')));
+            else
+                e.VetBan.define(coluna.valor(), linha, Texto.mid(i - 1, 2));
+            ++coluna;
+            posicao += 2;
+        }
+        e.VetBan.defineCodigo(coluna.valor(), linha, MatrizTexto::Fim);
+        posicao += 1;
+    }
+}
+
+void NovoArquivo(Programa& p) {
+    p.e.NomeArquivo.clear();
+    p.tela.Caption = QStringLiteral("Sorvelo");
+    if (!LimpaBancoApostas(p)) return;
+    LimpaNumeros(p);
+    p.e.Historico.clear();
+}
+
+void SalvarArquivo(Programa& p) {
+    auto& e = p.e;
+    if (e.NomeArquivo.isEmpty()) {
+        const QString nome = p.s.dialogo->salvar(TituloSalvar, Filtro);
+        if (nome.isEmpty()) return;
+        e.NomeArquivo = nome;
+    }
+    e.ArquivoBanco = e.NomeArquivo;
+    if (QFileInfo::exists(e.NomeArquivo) &&
+        p.s.caixa->pergunta(PerguntaSobrescrever, Botoes::SimNao, Resposta::Nao) != Resposta::Sim)
+        return;
+    GravaArquivo(p, e.NomeArquivo);
+    e.BancoAlterado = false;
+}
+
+void SalvarArquivoComo(Programa& p) {
+    p.e.NomeArquivo.clear();
+    SalvarArquivo(p);
+}
+
+void GravaArquivo(Programa& p, const QString& Nome) {
+    const auto& e = p.e;
+    const auto& t = p.tela;
+    ApagaArquivo(Nome);
+    QFile arquivo(Nome);
+    if (Nome.isEmpty() || !arquivo.open(QIODevice::ReadWrite)) falhaAbertura(Nome);
+    Gravador g(arquivo);
+    g.campo(e.NomeLoteria);
+    g.campo(TextoMarcados(p));
+    g.campo(escreveRtf(t.TxtBanco));
+    g.campo(t.TxtQuantApostas.Text);
+    g.campo(t.TxtValorApostas.Text);
+    g.campo(bytesVetBan(p));
+    g.campo(textoNumero(int64_t(e.QuantBan.valor())));
+    g.campo(e.TextoEstatistica);
+    g.campo(e.DezEscolhidas);
+    g.campo(e.Historico);
+    g.campo(TextoFixos(p));
+    g.campo(t.TxtValAp.Text);
+    g.campo(t.TxtDezAp.Text);
+    g.campo(t.TxtDezAp2.Text);
+    g.campo(t.CmbGarantia.Text);
+    g.campo(t.CmbAcertar.Text);
+    if (!arquivo.flush()) falhaEscrita(arquivo);
+    arquivo.close();
+}
+
+void AbrirArquivo(Programa& p) {
+    auto& e = p.e;
+    auto& t = p.tela;
+    if (!LimpaBancoApostas(p)) return;
+    LimpaNumeros(p);
+    const QString nome = p.s.dialogo->abrir(TituloAbrir, Filtro);
+    if (nome.isEmpty()) return;
+    e.NomeArquivo = nome;
+    t.Caption = QStringLiteral("Sorvelo - ") + nome;
+    e.ArquivoBanco = nome;
+
+    // The binary open creates a name that does not exist.
+    QFile arquivo(nome);
+    const bool aberto =
+        QFileInfo::exists(nome) ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
+    if (!aberto || QFileInfo(nome).isDir()) falhaAbertura(nome);
+    Leitor l(arquivo);
+    e.NomeLoteria = l.texto();
+    ConfiguraLoteria(p, e.NomeLoteria);
+    CarregaMarcados(p, l.texto());
+    leRtf(l.campo(), t.TxtBanco);
+    t.TxtQuantApostas.Text = l.texto();
+    t.TxtValorApostas.Text = l.texto();
+    // Only the characters that CarregaVetBan can reach are decoded.
+    const QByteArray vetBan = l.campo();
+    const QString textoVetBan =
+        cp1252::decodifica(vetBan.constData(), std::min<int64_t>(vetBan.size(), UltimaPosicaoVetBan + 1));
+    e.QuantBan = Int32::de(valorNumerico(l.texto()));
+    CarregaVetBan(p, textoVetBan);
+    e.TextoEstatistica = l.texto();
+    e.DezEscolhidas = l.texto();
+    e.Historico = l.texto();
+    CarregaFixos(p, l.texto());
+    t.TxtValAp.Text = l.texto();
+    defineSpin(t.SpbDezAp, t.TxtDezAp, l.texto());
+    defineSpin(t.SpbDezAp2, t.TxtDezAp2, l.texto());
+    t.CmbGarantia.Text = l.texto();
+    t.CmbAcertar.Text = l.texto();
+    arquivo.close();
+    AtualizaEscolhidos(p);
+}
+
+void InstalaArquivo(Programa& p) {
+    p.salvarArquivo = SalvarArquivo;
+}
+
+} // namespace sorvelo

@@ -1,0 +1,48 @@
+// The bet file (.Apo): sixteen length-prefixed texts holding the whole
+// working state, and the commands Novo, Abrir, Salvar and Salvar Como.
+//
+// A field is its length as decimal digits, left-aligned and filled with
+// blanks to 10 bytes, then the text, one byte per character in Windows-1252.
+// In order: game name, blue marks, the bank as RTF, shown count, shown
+// total, VetBan as text, QuantBan, prize sentence, chosen numbers, log, red
+// marks, price, numbers per bet (full and reduced), guarantee, hit
+// requirement. No magic number, no version, no end mark.
+//
+// Reading never allocates more than LimiteTextoArquivo bytes for one text:
+// a longer length is the memory failure (7) at once.
+#pragma once
+
+#include "Estado.h"
+
+#include <QByteArray>
+
+namespace sorvelo {
+
+// The largest text the reader will allocate for one field: 1 GiB.
+constexpr int64_t LimiteTextoArquivoPadrao = int64_t(1) << 30;
+// The bound in force (tests and the fuzzing harness lower it).
+extern int64_t LimiteTextoArquivo;
+
+// Novo: forgets the file name, empties the bank (which may ask to save),
+// clears the grid and the log.
+void NovoArquivo(Programa& p);
+// Salvar: asks for a name when there is none, asks before overwriting.
+void SalvarArquivo(Programa& p);
+// Salvar Como: the name forgotten, then Salvar.
+void SalvarArquivoComo(Programa& p);
+// Writes the file, deleting the old one first.
+void GravaArquivo(Programa& p, const QString& Nome);
+// Abrir: empties the bank, asks for a name, reads the sixteen fields.
+void AbrirArquivo(Programa& p);
+
+QString TextoMarcados(const Programa& p);
+QString TextoFixos(const Programa& p);
+QString TextoVetBan(const Programa& p);
+void CarregaMarcados(Programa& p, const QString& Texto);
+void CarregaFixos(Programa& p, const QString& Texto);
+void CarregaVetBan(Programa& p, const QString& Texto);
+
+// Gives the bank's save question (Programa::salvarArquivo) its effect.
+void InstalaArquivo(Programa& p);
+
+} // namespace sorvelo
