@@ -5,6 +5,7 @@
 #include "Controles.h"
 #include "Desenhos.h"
 #include "Protecao.h"
+#include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
@@ -92,7 +93,10 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
     timer1_->setInterval(500);
     liga(timer1_, &QTimer::timeout, [this] { TickTimer1(p_); });
 
-    executaProtegido([this] { CarregaPrincipal(p_); });
+    executaProtegido([this] {
+        CarregaPrincipal(p_);
+        InstalaArquivo(p_);
+    });
     resize(tw(11880) - 8, tw(8900) - tw(705));
     sincroniza();
     timer1_->start();
@@ -154,10 +158,10 @@ void Sorvelo::montaMenus() {
         return a;
     };
     QMenu* arquivo = menu("MenuArquivo", QStringLiteral("&Arquivo"));
-    item(arquivo, "MenuNovo", QStringLiteral("Novo"), [] {});
-    item(arquivo, "MenuÄbrir", QStringLiteral("Abrir"), [] {});
-    item(arquivo, "MenuSalvar", QStringLiteral("Salvar"), [] {});
-    item(arquivo, "MenuSalvarComo", QStringLiteral("Salvar Como"), [] {});
+    item(arquivo, "MenuNovo", QStringLiteral("Novo"), [this] { NovoArquivo(p_); });
+    item(arquivo, "MenuÄbrir", QStringLiteral("Abrir"), [this] { AbrirArquivo(p_); });
+    item(arquivo, "MenuSalvar", QStringLiteral("Salvar"), [this] { SalvarArquivo(p_); });
+    item(arquivo, "MenuSalvarComo", QStringLiteral("Salvar Como"), [this] { SalvarArquivoComo(p_); });
     arquivo->addSeparator()->setObjectName(QStringLiteral("Traco1"));
     item(arquivo, "MenuImprimir", QStringLiteral("Imprimir"), [] {});
     arquivo->addSeparator()->setObjectName(QStringLiteral("Traco2"));
@@ -199,9 +203,9 @@ void Sorvelo::montaBarra() {
         std::function<void()> acao;
     };
     const std::array<Botao, 10> botoes{{
-        {Imagem::Novo, QStringLiteral("Criar novo arquivo de jogos"), [] {}},
-        {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [] {}},
-        {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [] {}},
+        {Imagem::Novo, QStringLiteral("Criar novo arquivo de jogos"), [this] { NovoArquivo(p_); }},
+        {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [this] { AbrirArquivo(p_); }},
+        {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [this] { SalvarArquivo(p_); }},
         {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"), [] {}},
         {Imagem::Novo, QString(), nullptr},
         {Imagem::MegaSena, QStringLiteral("Seleciona Mega-Sena"), [this] { trocaJogo(jogos()[0].nome); }},
