@@ -370,6 +370,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     }
     for (QWidget* b : {static_cast<QWidget*>(iniciar), static_cast<QWidget*>(reduz)}) {
         b->setMouseTracking(true);
+        // The move over a button hides marks; the frame must not see it too.
+        b->setAttribute(Qt::WA_NoMousePropagation);
         b->installEventFilter(this);
     }
 }
@@ -399,6 +401,8 @@ void Sorvelo::montaQuadroOpcoes() {
     for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),
                        static_cast<QWidget*>(digitar)}) {
         b->setMouseTracking(true);
+        // The move over a button hides marks; the frame must not see it too.
+        b->setAttribute(Qt::WA_NoMousePropagation);
         b->installEventFilter(this);
     }
     frame1_->setMouseTracking(true);

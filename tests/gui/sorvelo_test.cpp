@@ -342,6 +342,20 @@ TEST_F(JanelaPrincipal, MarcasDeAjudaAparecemEDesaparecem) {
     EXPECT_FALSE(controle(QStringLiteral("HelpRotina(0)"))->isVisible());
 }
 
+TEST_F(JanelaPrincipal, MoverSobreOBotaoEscondeSoASuaMarca) {
+    auto* quadro = controle(QStringLiteral("Frame3"));
+    QMouseEvent sobreQuadro(QEvent::MouseMove, QPointF(10, 10), quadro->mapToGlobal(QPointF(10, 10)), Qt::NoButton,
+                            Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(quadro, &sobreQuadro);
+    ASSERT_TRUE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
+    auto* botao = controle(QStringLiteral("BtnFechar"));
+    QMouseEvent sobreBotao(QEvent::MouseMove, QPointF(5, 5), botao->mapToGlobal(QPointF(5, 5)), Qt::NoButton,
+                           Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(botao, &sobreBotao);
+    EXPECT_FALSE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
+    EXPECT_TRUE(controle(QStringLiteral("HelpRotina(2)"))->isVisible());
+}
+
 TEST_F(JanelaPrincipal, FiguraDeSortearAfundaAoApertarEVoltaAoSoltar) {
     auto* figura = controle(QStringLiteral("PicSort1"));
     const QPoint repouso(janela->tw(240), janela->tw(3000));
