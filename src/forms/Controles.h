@@ -18,6 +18,7 @@ class CelulaNumero : public QWidget {
     void define(const QString& texto, QColor fundo, QColor frente);
     QString text() const { return texto_; }
     QColor fundo() const { return fundo_; }
+    QColor frente() const { return frente_; }
 
   signals:
     void clicked();

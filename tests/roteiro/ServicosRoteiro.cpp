@@ -1,0 +1,74 @@
+#include "ServicosRoteiro.h"
+
+#include "Transcricao.h"
+
+#include <QCoreApplication>
+
+namespace sorvelo::roteiro {
+
+QString nomeResposta(Resposta r) {
+    switch (r) {
+    case Resposta::OK:
+        return QStringLiteral("OK");
+    case Resposta::Sim:
+        return QStringLiteral("Sim");
+    case Resposta::Nao:
+        return QStringLiteral("Não");
+    case Resposta::Cancelar:
+        return QStringLiteral("Cancelar");
+    }
+    return QString();
+}
+
+bool respostaDoNome(const QString& nome, Resposta& r) {
+    for (Resposta k : {Resposta::OK, Resposta::Sim, Resposta::Nao, Resposta::Cancelar}) {
+        if (nomeResposta(k) == nome) {
+            r = k;
+            return true;
+        }
+    }
+    return false;
+}
+
+void CaixaConduzida::informacao(const QString& texto) {
+    c_.atendeCaixa(QStringLiteral("informação"), texto, {Resposta::OK}, Resposta::OK);
+}
+void CaixaConduzida::aviso(const QString& texto) {
+    c_.atendeCaixa(QStringLiteral("aviso"), texto, {Resposta::OK}, Resposta::OK);
+}
+void CaixaConduzida::critico(const QString& texto) {
+    c_.atendeCaixa(QStringLiteral("crítico"), texto, {Resposta::OK}, Resposta::OK);
+}
+Resposta CaixaConduzida::pergunta(const QString& texto, Botoes botoes, Resposta padrao) {
+    QList<Resposta> b = {Resposta::Sim, Resposta::Nao};
+    if (botoes == Botoes::SimNaoCancelar) b << Resposta::Cancelar;
+    return c_.atendeCaixa(QStringLiteral("pergunta"), texto, b, padrao);
+}
+
+QString DialogoConduzido::abrir(const QString& titulo, const QString& filtro) {
+    return c_.atendeDialogo(false, titulo, filtro);
+}
+QString DialogoConduzido::salvar(const QString& titulo, const QString& filtro) {
+    return c_.atendeDialogo(true, titulo, filtro);
+}
+
+void ImpressoraConduzida::defineFonte(const QString& nome, double tamanho) {
+    c_.anota(QStringLiteral("impressora fonte %1 %2").arg(aspas(nome), QString::number(tamanho)));
+}
+void ImpressoraConduzida::imprime(const QString& texto) {
+    c_.anota(QStringLiteral("impressora ") + aspas(texto));
+}
+void ImpressoraConduzida::fim() {
+    c_.anota(QStringLiteral("impressora fim"));
+}
+
+void AbridorConduzido::abre(const QString& endereco) {
+    c_.anota(QStringLiteral("abre ") + aspas(endereco));
+}
+
+void CedenciaConduzida::cede() {
+    c_.cedeu();
+    QCoreApplication::processEvents();
+}
+
+} // namespace sorvelo::roteiro
