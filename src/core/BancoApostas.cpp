@@ -7,9 +7,16 @@ void InsereLinhaBanco(Programa& p, const QString& Texto, bool Negrito) {
 }
 
 void InsereLinhaAposta(DocumentoRico& doc, int64_t n, const QString& Aposta, const QString& FimLinha) {
-    const QString linha = formata(n, 5) + QStringLiteral(")   ") + Aposta + FimLinha;
-    doc.acrescenta(linha.left(6), CorNumeroLinha, false);
-    doc.acrescenta(linha.mid(6), CorAposta, false);
+    // The line is built once; its two coloured pieces are views of it.
+    QString linha;
+    linha.reserve(10 + Aposta.size() + FimLinha.size());
+    linha += formata(n, 5);
+    linha += QLatin1String(")   ");
+    linha += Aposta;
+    linha += FimLinha;
+    const QStringView v(linha);
+    doc.acrescenta(v.left(6), CorNumeroLinha, false);
+    doc.acrescenta(v.mid(6), CorAposta, false);
 }
 
 void InsereApostaBanco(Programa& p, const QString& Aposta, int64_t n) {

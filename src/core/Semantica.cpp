@@ -131,9 +131,15 @@ double valorNumerico(const QString& texto) {
 
 QString formata(int64_t numero, int digitos) {
     const bool negativo = numero < 0;
-    const uint64_t absoluto = negativo ? uint64_t(0) - uint64_t(numero) : uint64_t(numero);
-    QString s = QString::number(absoluto);
-    if (s.size() < digitos) s = QString(digitos - s.size(), u'0') + s;
+    uint64_t resto = negativo ? uint64_t(0) - uint64_t(numero) : uint64_t(numero);
+    char16_t buf[24];
+    int i = 24;
+    do {
+        buf[--i] = char16_t(u'0' + resto % 10);
+        resto /= 10;
+    } while (resto);
+    QString s(reinterpret_cast<const QChar*>(buf + i), 24 - i);
+    if (s.size() < digitos) s.prepend(QString(digitos - s.size(), u'0'));
     return negativo ? u'-' + s : s;
 }
 

@@ -31,7 +31,7 @@ void DocumentoRico::defineTexto(const QString& texto) {
     mudou();
 }
 
-void DocumentoRico::acrescenta(const QString& pedaco, Formato formato) {
+void DocumentoRico::acrescenta(QStringView pedaco, Formato formato) {
     if (pedaco.isEmpty()) {
         mudou();
         return;

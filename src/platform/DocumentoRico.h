@@ -40,8 +40,8 @@ public:
     void limpa() { defineTexto(QString()); }
     // Appends a piece at the end in the given format (the SelRTF of a
     // staged, coloured line dropped at the end of the document).
-    void acrescenta(const QString& pedaco, Formato formato);
-    void acrescenta(const QString& pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
+    void acrescenta(QStringView pedaco, Formato formato);
+    void acrescenta(QStringView pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
     // Appends another document at the end, keeping its runs.
     void acrescenta(const DocumentoRico& outro);
 
