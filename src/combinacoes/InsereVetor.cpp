@@ -53,6 +53,7 @@ InsereVetor::InsereVetor(Programa& p) : p_(p) {
 void InsereVetor::ativa() {
     LblCont = QStringLiteral("0");
     LblTotal = QStringLiteral("de ") + textoNumero(int64_t(p_.e.TotalApostas.valor()));
+    if (aoMostrarRotulos) aoMostrarRotulos();
     if (!Iniciado) {
         InsereVetRes(p_.e.DezAposta);
         Iniciado = true;

@@ -36,6 +36,9 @@ class InsereVetor {
     // Controls.
     const QString Label1 = QStringLiteral("Inserindo jogos no banco de apostas...");
     QString LblCont, LblTotal;
+    // Told when the dialog comes to the front and its labels are set, before
+    // the run, so that the form shows them during it.
+    std::function<void()> aoMostrarRotulos;
     // Told when LblCont changes (every 13 bets) and when the dialog closes.
     std::function<void(const QString&)> aoContar;
     std::function<void()> aoFechar;

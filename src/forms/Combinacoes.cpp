@@ -1,5 +1,7 @@
 #include "Combinacoes.h"
 
+#include "Sorvelo.h"
+
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QProgressBar>
@@ -84,6 +86,7 @@ JanelaInsereVetor::JanelaInsereVetor(Programa& p, QWidget* pai)
     cancelar->setAutoDefault(false);
     liga(cancelar, &QPushButton::clicked, [this] { v_.BtnCancelar(); });
     v_.aoContar = [this](const QString& t) { lblCont_->setText(t); };
+    v_.aoMostrarRotulos = [this] { sincroniza(); };
     v_.aoFechar = [this] { done(0); };
 }
 
@@ -109,13 +112,23 @@ void JanelaInsereVetor::closeEvent(QCloseEvent* e) {
     e->accept();
 }
 
+namespace {
+// The main window shows what its handler did so far before a dialog comes
+// up in front of it: the cells that a closing marks are seen marked.
+void mostraJanelaPrincipal(QWidget* pai) {
+    if (auto* principal = qobject_cast<Sorvelo*>(pai)) principal->sincroniza();
+}
+} // namespace
+
 JanelasCombinacao janelasCombinacao(QWidget* pai, std::function<void()> caretNoFim) {
     JanelasCombinacao j;
     j.mostraCombinacoes = [pai](Programa& p) {
+        mostraJanelaPrincipal(pai);
         JanelaCombinacoes janela(p, pai);
         janela.mostraModal();
     };
     j.mostraInsereVetor = [pai](Programa& p) {
+        mostraJanelaPrincipal(pai);
         JanelaInsereVetor janela(p, pai);
         janela.mostraModal();
     };

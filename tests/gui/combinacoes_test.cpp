@@ -2,6 +2,7 @@
 #include "combinacoes/Module2.h"
 #include "core/Grade.h"
 #include "forms/Combinacoes.h"
+#include "forms/Controles.h"
 #include "forms/Sorvelo.h"
 #include "platform/Duplos.h"
 
@@ -121,6 +122,23 @@ TEST_F(FluxoCombinacao, FechamentoDeDuqueComAutoCompletarDaApostasDeSeis) {
     EXPECT_EQ(ContaNumeros(p), 0) << "the grid is cleared after a closing";
     EXPECT_TRUE(p.e.Historico.contains(QStringLiteral(": Fechamento completo de Duque\r\n")));
     EXPECT_TRUE(p.e.Historico.contains(QStringLiteral(": Foi selecionada a opção Auto-Completar.\r\n")));
+}
+
+TEST_F(FluxoCombinacao, FechamentoMostraTodasAsCelulasMarcadasAtrasDoDialogo) {
+    janela->findChild<QComboBox*>(QStringLiteral("CmbFecha"))->setEditText(QStringLiteral("Duque"));
+    std::vector<QColor> fundos;
+    quandoAbrir({[&](QWidget* d) {
+        for (const char* nome : {"Num(0)", "Num(59)", "Num(99)"})
+            fundos.push_back(janela->findChild<CelulaNumero*>(QString::fromUtf8(nome))->fundo());
+        d->findChild<QPushButton*>(QStringLiteral("BtnCancelar"))->click();
+    }});
+    clica("BtnFechar");
+    const QColor marcado(vermelho(p.e.CorMarcado), verde(p.e.CorMarcado), azul(p.e.CorMarcado));
+    ASSERT_EQ(fundos.size(), 3u);
+    for (const QColor& c : fundos)
+        EXPECT_EQ(c, marcado);
+    EXPECT_NE(janela->findChild<CelulaNumero*>(QStringLiteral("Num(0)"))->fundo(), marcado)
+        << "the grid is cleared after the closing";
 }
 
 TEST_F(FluxoCombinacao, SegundoLoteSemLimparRecomecaEm00001) {

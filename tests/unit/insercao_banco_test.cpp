@@ -109,6 +109,23 @@ TEST(InsereVetor, DozeApostasDeixamOContadorEmZero) {
     EXPECT_EQ(b.p.e.QuantBan, 12);
 }
 
+TEST(InsereVetor, RotulosProntosAntesDaPrimeiraAposta) {
+    Bancada b;
+    b.marcaFaixa(1, 8);
+    gera(b, 6); // 28 bets
+    InsereVetor dlg(b.p);
+    QStringList vistos;
+    int apostasAntes = -1;
+    dlg.aoMostrarRotulos = [&] {
+        vistos << dlg.LblCont << dlg.LblTotal;
+        apostasAntes = b.p.e.QuantBan.valor();
+    };
+    dlg.ativa();
+    EXPECT_EQ(vistos, (QStringList{QStringLiteral("0"), QStringLiteral("de  28")}));
+    EXPECT_EQ(apostasAntes, 0) << "the labels come before the run";
+    EXPECT_EQ(b.p.e.QuantBan, 28);
+}
+
 TEST(InsereVetor, CedeACadaTrezeComOBancoEscondido) {
     Bancada b;
     b.marcaFaixa(1, 8);
