@@ -31,6 +31,7 @@ JanelaConfApostas::JanelaConfApostas(Programa& p, ConfApostas& logica, QWidget* 
     liga(iniciar, &QPushButton::clicked, [this] { c_.BtnIniciar(); });
     liga(imprimir, &QPushButton::clicked, [this] { c_.BtnImprimir(); });
     liga(cancelar, &QPushButton::clicked, [this] { c_.BtnCancelar(); });
+    c_.aoMudarMensagem = [this] { lblMensagem_->setText(c_.tela.LblMensagem); };
     resize(tw(9600), tw(7000));
 }
 
@@ -54,6 +55,21 @@ bool JanelaConfApostas::event(QEvent* e) {
         }
     }
     return Formulario::event(e);
+}
+
+void JanelaConfApostas::showEvent(QShowEvent* e) {
+    Formulario::showEvent(e);
+    if (mostrada_) return;
+    mostrada_ = true;
+    // The first activation, once the window stands on the screen: an empty
+    // result warns over it and closes it.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            executaProtegido([this] { c_.Ativa(); });
+            sincroniza();
+        },
+        Qt::QueuedConnection);
 }
 
 void JanelaConfApostas::resizeEvent(QResizeEvent* e) {

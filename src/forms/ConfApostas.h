@@ -23,6 +23,7 @@ public:
 
 protected:
     bool event(QEvent* e) override;
+    void showEvent(QShowEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
 
 private:
@@ -33,6 +34,7 @@ private:
     AreaRica* rtfConf_;
     QGroupBox* fraConf_;
     bool ignorarAtivacao_ = true;
+    bool mostrada_ = false;
 };
 
 } // namespace sorvelo

@@ -53,6 +53,7 @@ void ConfApostas::BtnIniciar() {
     for (int i = 0; i <= 99; ++i)
         VetPontos(i) = 0;
     tela.LblMensagem = QStringLiteral("Aguarde, conferindo apostas...");
+    if (aoMudarMensagem) aoMudarMensagem();
     p_.s.cedencia->cede();
 
     rtf.defineVisivel(false);
@@ -102,14 +103,16 @@ void ConfApostas::Redimensiona(int largura, int altura) {
     tela.RTFConfHeight = altura - 3000;
 }
 
-void BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma) {
+bool BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma) {
     CarregaNumeros(p);
     CarregaVetDezEsc(p);
     if (!forma || forma->fechada()) {
         forma = std::make_unique<ConfApostas>(p);
         forma->Carrega();
+        return true;
     }
     if (!forma->Ativa()) forma.reset();
+    return false;
 }
 
 } // namespace sorvelo

@@ -5,6 +5,7 @@
 
 #include "../core/Estado.h"
 
+#include <functional>
 #include <memory>
 
 namespace sorvelo {
@@ -58,6 +59,9 @@ class ConfApostas {
 
     bool fechada() const { return fechada_; }
     TelaConfApostas tela;
+    // Called when LblMensagem changes in the middle of a run, so that the
+    // window shows it before the yield.
+    std::function<void()> aoMudarMensagem;
     // Listed bets per score; only 0 to 99 are cleared and reported.
     Vetor<Int16> VetPontos{0, 100};
 
@@ -67,11 +71,13 @@ class ConfApostas {
 };
 
 // "Conferir banco" on the main window: takes the result from the grid
-// (CarregaNumeros, CarregaVetDezEsc), then shows the window: loaded anew when
-// it isn't open (or was closed), else only brought back, without a new load.
-// The activation test follows; when it closes the window, `forma` is reset.
-// The form that shows the window runs Ativa itself only on later returns of
-// the user to it.
-void BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma);
+// (CarregaNumeros, CarregaVetDezEsc), then shows the window. When it isn't
+// open (or was closed) it is loaded anew and true is returned: the caller
+// shows it, and its first activation (Ativa) comes once it stands on the
+// screen, so that the warning of an empty result closes a window that has
+// appeared. When it is open it is only brought back, without a new load:
+// that return runs the activation test here, and when the test closes the
+// window, `forma` is reset.
+bool BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma);
 
 } // namespace sorvelo

@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -100,19 +101,46 @@ TEST_F(Conferencia, AJanelaPrincipalContinuaUsavelEMarcasNovasSoValemNoProximoCl
         << "no new load: the threshold stays as typed";
 }
 
-TEST_F(Conferencia, SemResultadoAvisaENaoAbre) {
-    EXPECT_EQ(confere(), nullptr);
+TEST_F(Conferencia, SemResultadoAJanelaApareceAvisaEFecha) {
+    QPointer<JanelaConfApostas> conf = confere();
+    ASSERT_NE(conf, nullptr);
+    EXPECT_TRUE(conf->isVisible());
+    EXPECT_TRUE(duplos.caixa.vistas().empty()) << "the warning comes once the window stands";
+    bool visivelNoAviso = false;
+    duplos.caixa.aoMostrar = [&](const CaixaVista&) { visivelNoAviso = conf && conf->isVisible(); };
+    QApplication::sendPostedEvents();
     ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
     EXPECT_EQ(duplos.caixa.vistas()[0].tipo, CaixaVista::Tipo::Aviso);
     EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Informe o resultado na seção \"Escolha de números\""));
+    EXPECT_TRUE(visivelNoAviso);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(conf.isNull()) << "the window closed";
 }
 
 TEST_F(Conferencia, DuplaSenaLembraDoSegundoSorteioAntesDoAviso) {
     janela->findChild<QAction*>(QStringLiteral("MenuDuplaSena"))->trigger();
-    EXPECT_EQ(confere(), nullptr);
-    ASSERT_EQ(duplos.caixa.vistas().size(), 2u);
+    QPointer<JanelaConfApostas> conf = confere();
+    ASSERT_NE(conf, nullptr);
+    ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
     EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Lembrete: não se esqueça de conferir o segundo sorteio!"));
+    QApplication::sendPostedEvents();
+    ASSERT_EQ(duplos.caixa.vistas().size(), 2u);
     EXPECT_EQ(duplos.caixa.vistas()[1].tipo, CaixaVista::Tipo::Aviso);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(conf.isNull());
+}
+
+TEST_F(Conferencia, AMensagemDeEsperaApareceNaCedencia) {
+    aposta({0, 1, 2, 3, 4, 5});
+    clicaNumero(0);
+    JanelaConfApostas* conf = confere();
+    ASSERT_NE(conf, nullptr);
+    auto* mensagem = conf->findChild<QLabel*>(QStringLiteral("LblMensagem"));
+    QString naCedencia;
+    duplos.cedencia.aoCeder = [&](long long) { naCedencia = mensagem->text(); };
+    conf->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
+    EXPECT_EQ(naCedencia, QStringLiteral("Aguarde, conferindo apostas..."));
+    EXPECT_EQ(mensagem->text(), QStringLiteral("Concluído."));
 }
 
 TEST_F(Conferencia, FecharAJanelaDescartaALista) {

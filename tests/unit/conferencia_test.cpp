@@ -16,7 +16,11 @@ const QString Cabecalho = QStringLiteral("Conferência de apostas da MEGA-SENA\r
 struct Conferencia : Ambiente {
     std::unique_ptr<ConfApostas> forma;
     explicit Conferencia(const QString& jogo = QStringLiteral("Mega-Sena")) : Ambiente(jogo) {}
-    void conferir() { BtnConferir(p, forma); }
+    // The press, and for a window loaded anew its showing, which is its
+    // first activation (the form runs it once the window stands).
+    void conferir() {
+        if (BtnConferir(p, forma) && !forma->Ativa()) forma.reset();
+    }
     QString iniciar() {
         forma->BtnIniciar();
         return forma->tela.RTFConf.texto();
@@ -79,6 +83,43 @@ TEST(ConfApostas, NadaMarcadoAvisaEFechaSemLembreteForaDaDuplaSena) {
     c.conferir();
     EXPECT_FALSE(c.forma);
     EXPECT_EQ(c.caixas(), QStringList{"Informe o resultado na seção \"Escolha de números\""});
+}
+
+TEST(ConfApostas, JanelaNovaSoAvisaDoResultadoVazioQuandoAparece) {
+    Conferencia c(QStringLiteral("Dupla Sena"));
+    EXPECT_TRUE(BtnConferir(c.p, c.forma)) << "loaded anew: the caller shows it";
+    ASSERT_TRUE(c.forma);
+    EXPECT_EQ(c.caixas(), QStringList{"Lembrete: não se esqueça de conferir o segundo sorteio!"});
+    EXPECT_FALSE(c.forma->fechada());
+    EXPECT_FALSE(c.forma->Ativa()); // the window stands: its first activation
+    EXPECT_TRUE(c.forma->fechada());
+    EXPECT_EQ(c.caixas(), (QStringList{"Lembrete: não se esqueça de conferir o segundo sorteio!",
+                                       "Informe o resultado na seção \"Escolha de números\""}));
+}
+
+TEST(ConfApostas, JanelaAbertaVoltaSemNovaCargaETestaOResultadoNaHora) {
+    Conferencia c;
+    c.marca({1});
+    c.conferir();
+    ConfApostas* janela = c.forma.get();
+    c.marca({2});
+    EXPECT_FALSE(BtnConferir(c.p, c.forma));
+    EXPECT_EQ(c.forma.get(), janela);
+    LimpaNumeros(c.p);
+    EXPECT_FALSE(BtnConferir(c.p, c.forma));
+    EXPECT_FALSE(c.forma);
+    EXPECT_EQ(c.caixas(), QStringList{"Informe o resultado na seção \"Escolha de números\""});
+}
+
+TEST(ConfApostas, AJanelaSabeDaMensagemDeEsperaAntesDaCedencia) {
+    Conferencia c;
+    c.marca({1});
+    c.conferir();
+    QStringList eventos;
+    c.forma->aoMudarMensagem = [&] { eventos << QStringLiteral("mensagem ") + c.forma->tela.LblMensagem; };
+    c.d.cedencia.aoCeder = [&](long long) { eventos << QStringLiteral("cede"); };
+    c.iniciar();
+    EXPECT_EQ(eventos, (QStringList{"mensagem Aguarde, conferindo apostas...", "cede"}));
 }
 
 TEST(ConfApostas, LimiarPadraoETituloDeCadaJogo) {
