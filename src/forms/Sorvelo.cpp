@@ -126,7 +126,11 @@ JanelasCombinacao Sorvelo::janelasComb() {
 void Sorvelo::abreConferencia() {
     BtnConferir(p_, conf_);
     if (!conf_) {
-        if (janelaConf_) janelaConf_->close();
+        // The window's state is gone with the warning: the window goes now.
+        if (janelaConf_) {
+            janelaConf_->hide();
+            delete janelaConf_.data();
+        }
         return;
     }
     if (janelaConf_) {
