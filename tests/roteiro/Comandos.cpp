@@ -23,7 +23,7 @@ struct Uso {
 const Uso usos[] = {
     {"clica", "clica C"},
     {"digita", "digita C \"texto\""},
-    {"tecla", "tecla C Enter|Tab|Esc|Esquerda|Direita|Cima|Baixo"},
+    {"tecla", "tecla C Enter|Tab|Esc|Esquerda|Direita|Cima|Baixo|Apagar|Retrocesso"},
     {"escolhe", "escolhe C \"item\""},
     {"rola", "rola C N"},
     {"move", "move C X Y"},

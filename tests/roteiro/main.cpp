@@ -28,7 +28,7 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
   clica C                      clique em botão, caixa de marcar, rótulo, figura, célula Num(i),
                                entrada de menu (MenuQuina) ou botão da barra (BarraSup(6))
   digita C "texto"             foco em C, tudo selecionado, uma tecla por caractere
-  tecla C Enter|Tab|Esc|Esquerda|Direita|Cima|Baixo
+  tecla C Enter|Tab|Esc|Esquerda|Direita|Cima|Baixo|Apagar|Retrocesso
   escolhe C "item"             escolhe o item de uma lista ou caixa de combinação
   rola C N                     barra de rolagem ou botão de giro para N (com o evento de mudança)
   move C X Y                   movimento do mouse sobre C em X, Y (twips)
