@@ -1,6 +1,6 @@
 // The commands of a scenario line, and how they find the controls.
 #include "Acoes.h"
-#include "Inspecao.h"
+#include "Observacao.h"
 #include "Roteiro.h"
 #include "core/Estado.h"
 #include "forms/Sorvelo.h"

@@ -1,4 +1,4 @@
-#include "Inspecao.h"
+#include "Observacao.h"
 
 #include "Transcricao.h"
 #include "forms/Controles.h"
