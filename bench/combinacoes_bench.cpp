@@ -56,7 +56,7 @@ bool zeraPico() {
 
 // The yield of the run: counts the calls, times them, and forwards them.
 class CedenciaMedida : public Cedencia {
-  public:
+public:
     explicit CedenciaMedida(std::function<void()> trabalho) : trabalho_(std::move(trabalho)) {}
     void cede() override {
         ++quantas;
@@ -67,7 +67,7 @@ class CedenciaMedida : public Cedencia {
     long long quantas = 0;
     Cronometro::duration gasto{};
 
-  private:
+private:
     std::function<void()> trabalho_;
 };
 

@@ -11,7 +11,7 @@
 namespace sorvelo {
 
 class Combinacoes {
-  public:
+public:
     // The dialog's load: labels, and which check box is shown and enabled.
     explicit Combinacoes(Programa& p);
 
@@ -34,7 +34,7 @@ class Combinacoes {
     std::function<void()> aoMudarMensagem;
     std::function<void()> aoFechar;
 
-  private:
+private:
     void mensagem(const QString& texto);
     void fecha();
 

@@ -14,7 +14,7 @@
 namespace sorvelo {
 
 class InsereVetor {
-  public:
+public:
     // The dialog's load: the size of a full bet, the highest number, the
     // random numbers seeded from the clock.
     explicit InsereVetor(Programa& p);
@@ -50,7 +50,7 @@ class InsereVetor {
     Int32 Cont;
     Int32 LinhaOrigem;
 
-  private:
+private:
     void adicionaLista(const QString& item);
     QString apostaDaLista(Int16& i);
 

@@ -83,7 +83,7 @@ QString textoDasCelulas(const Programa& p, Cor fundo) {
 }
 
 class Gravador {
-  public:
+public:
     explicit Gravador(QFile& arquivo) : arquivo_(arquivo) {}
     void campo(const char* dados, int64_t tamanho) {
         char comprimento[TamanhoComprimento];
@@ -99,7 +99,7 @@ class Gravador {
     void campo(const std::string& b) { campo(b.data(), int64_t(b.size())); }
     void campo(const QString& texto) { campo(cp1252::codifica(texto)); }
 
-  private:
+private:
     void escreve(const char* dados, int64_t tamanho) {
         if (tamanho > 0 && arquivo_.write(dados, tamanho) != tamanho) falhaEscrita(arquivo_);
     }
@@ -112,7 +112,7 @@ class Gravador {
 // Reads the fields one after the other. A byte past the end of the file
 // reads as a blank, as the blank-filled buffer of the read is left there.
 class Leitor {
-  public:
+public:
     explicit Leitor(QFile& arquivo) : arquivo_(arquivo), tamanho_(arquivo.size()) {}
 
     QByteArray campo() {
@@ -127,7 +127,7 @@ class Leitor {
     }
     QString texto() { return cp1252::decodifica(campo()); }
 
-  private:
+private:
     QByteArray bytes(int64_t n) {
         QByteArray r;
         try {

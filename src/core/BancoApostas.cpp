@@ -55,13 +55,15 @@ bool LimpaBancoApostas(Programa& p) {
     auto& e = p.e;
     auto& t = p.tela;
     if (e.BancoAlterado && !t.TxtBanco.texto().isEmpty()) {
-        switch (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"), Botoes::SimNaoCancelar,
-                                    Resposta::Sim)) {
+        switch (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"),
+                                    Botoes::SimNaoCancelar, Resposta::Sim)) {
         case Resposta::Sim:
             if (p.salvarArquivo) p.salvarArquivo(p);
             break;
-        case Resposta::Cancelar: return false;
-        default: break;
+        case Resposta::Cancelar:
+            return false;
+        default:
+            break;
         }
     }
     t.TxtBanco.defineTexto(QString());
@@ -78,14 +80,14 @@ bool LimpaBancoApostas(Programa& p) {
 
 void BtnLimparBanco(Programa& p) {
     if (p.tela.TxtBanco.texto().isEmpty()) return;
-    if (p.s.caixa->pergunta(QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"), Botoes::SimNao,
-                            Resposta::Nao) == Resposta::Sim)
+    if (p.s.caixa->pergunta(QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"),
+                            Botoes::SimNao, Resposta::Nao) == Resposta::Sim)
         LimpaBancoApostas(p);
 }
 
 QString CabecalhoLote(const Programa& p) {
-    return QStringLiteral("Dezenas escolhidas: ") + p.e.DezEscolhidas + QStringLiteral("\r\n") + p.e.Historico +
-           QStringLiteral("\r\n");
+    return QStringLiteral("Dezenas escolhidas: ") + p.e.DezEscolhidas + QStringLiteral("\r\n") +
+           p.e.Historico + QStringLiteral("\r\n");
 }
 
 } // namespace sorvelo

@@ -46,7 +46,7 @@ struct Estado {
 // Control models. Names of the fields follow the controls' properties.
 struct Celula {
     QString Text;
-    Cor BackColor = rgb(0, 64, 0);  // as drawn at design time
+    Cor BackColor = rgb(0, 64, 0); // as drawn at design time
     Cor ForeColor = rgb(0, 255, 0);
 };
 struct CampoTexto {

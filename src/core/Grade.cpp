@@ -21,10 +21,13 @@ Int16 ContaNumeros(const Programa& p) {
     return n;
 }
 
-void AtualizaEscolhidos(Programa& p) { p.tela.TxtEscolhidos.Text = formata00(ContaNumeros(p).valor()); }
+void AtualizaEscolhidos(Programa& p) {
+    p.tela.TxtEscolhidos.Text = formata00(ContaNumeros(p).valor());
+}
 
 void LimpaNumeros(Programa& p) {
-    for (int16_t i = 0; i <= 99; ++i) DesmarcaNumero(p, i);
+    for (int16_t i = 0; i <= 99; ++i)
+        DesmarcaNumero(p, i);
     p.tela.TxtEscolhidos.Text = QStringLiteral("00");
 }
 
@@ -53,8 +56,10 @@ void CarregaNumeros(Programa& p) {
 void ClicaNumero(Programa& p, Int16 i) {
     if (i > p.e.NumFim) return;
     const Cor fundo = p.tela.Num(i.valor()).BackColor;
-    if (fundo == p.e.CorMarcado || fundo == p.e.CorFixo) DesmarcaNumero(p, i);
-    else MarcaNumero(p, i);
+    if (fundo == p.e.CorMarcado || fundo == p.e.CorFixo)
+        DesmarcaNumero(p, i);
+    else
+        MarcaNumero(p, i);
     AtualizaEscolhidos(p);
 }
 
@@ -64,6 +69,8 @@ void BtnLimpar(Programa& p) {
         LimpaNumeros(p);
 }
 
-void MudaSpin(const Spin& spin, CampoTexto& campo) { campo.Text = formata00(spin.Value); }
+void MudaSpin(const Spin& spin, CampoTexto& campo) {
+    campo.Text = formata00(spin.Value);
+}
 
 } // namespace sorvelo

@@ -81,15 +81,19 @@ int valorGarantia(const QString& texto) {
 void DerivaAcertar(Programa& p) {
     const QString& g = p.tela.CmbGarantia.Text;
     const qsizetype k = palavrasGarantia().indexOf(g);
-    if (k >= 0) p.tela.CmbAcertar.Text = QString::number(k + 2);
-    else if (valorNumerico(g) >= 7) p.tela.CmbAcertar.Text = g;
+    if (k >= 0)
+        p.tela.CmbAcertar.Text = QString::number(k + 2);
+    else if (valorNumerico(g) >= 7)
+        p.tela.CmbAcertar.Text = g;
 }
 
 void CliqueGarantia(Programa& p) {
     const QString& g = p.tela.CmbGarantia.Text;
     const qsizetype k = palavrasGarantia().indexOf(g);
-    if (k >= 0) p.tela.CmbAcertar.Text = QString::number(k + 2);
-    else if (!p.tela.ChkReduzir.Value && valorNumerico(g) >= 7) p.tela.CmbAcertar.Text = g;
+    if (k >= 0)
+        p.tela.CmbAcertar.Text = QString::number(k + 2);
+    else if (!p.tela.ChkReduzir.Value && valorNumerico(g) >= 7)
+        p.tela.CmbAcertar.Text = g;
 }
 
 void ConfiguraLoteria(Programa& p, const QString& Nome) {
@@ -104,7 +108,8 @@ void ConfiguraLoteria(Programa& p, const QString& Nome) {
     e.NomeLoteria = Nome.toUpper();
     e.NumIni = ini;
     e.NumFim = fim;
-    for (int i = 0; i <= 103; ++i) t.Num(i).Text.clear();
+    for (int i = 0; i <= 103; ++i)
+        t.Num(i).Text.clear();
     LimpaNumeros(p);
     Int16 i = 0;
     for (Int16 n = e.NumIni; n <= e.NumFim.valor(); ++n) {
@@ -136,11 +141,16 @@ void TrocaLoteria(Programa& p, const QString& nome) {
     ConfiguraLoteria(p, nome);
     DesmarcaMenus(p);
     auto& t = p.tela;
-    if (nome == jogos()[0].nome) t.MenuMegaSena = true;
-    else if (nome == jogos()[1].nome) t.MenuDuplaSena = true;
-    else if (nome == jogos()[2].nome) t.MenuQuina = true;
-    else if (nome == jogos()[3].nome) t.MenuLotomania = true;
-    else if (nome == jogos()[4].nome) t.MenuLotoFacil = true;
+    if (nome == jogos()[0].nome)
+        t.MenuMegaSena = true;
+    else if (nome == jogos()[1].nome)
+        t.MenuDuplaSena = true;
+    else if (nome == jogos()[2].nome)
+        t.MenuQuina = true;
+    else if (nome == jogos()[3].nome)
+        t.MenuLotomania = true;
+    else if (nome == jogos()[4].nome)
+        t.MenuLotoFacil = true;
 }
 
 } // namespace sorvelo

@@ -16,7 +16,8 @@ const std::array<QString, 102>& textos() {
         std::array<QString, 102> a;
         a[MatrizTexto::Vazio] = QString();
         a[MatrizTexto::Fim] = QStringLiteral("#");
-        for (int n = 0; n < 100; ++n) a[size_t(MatrizTexto::PrimeiroNumero + n)] = formata00(n);
+        for (int n = 0; n < 100; ++n)
+            a[size_t(MatrizTexto::PrimeiroNumero + n)] = formata00(n);
         return a;
     }();
     return t;
@@ -31,11 +32,14 @@ uint8_t MatrizTexto::codigoDe(const QString& texto) {
     return Outro;
 }
 
-QString MatrizTexto::textoDe(uint8_t codigo) { return codigo < textos().size() ? textos()[codigo] : QString(); }
+QString MatrizTexto::textoDe(uint8_t codigo) {
+    return codigo < textos().size() ? textos()[codigo] : QString();
+}
 
 void MatrizTexto::redimensiona(int64_t ultimaColuna, int64_t ultimaLinha) {
     if (ultimaColuna < 0 || ultimaLinha < 0) foraDoIntervalo();
-    if (ultimaColuna >= ColunasMaximas || ultimaLinha > INT32_MAX) throw FalhaExecucao(erro::MemoriaInsuficiente);
+    if (ultimaColuna >= ColunasMaximas || ultimaLinha > INT32_MAX)
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
     try {
         // The memory of a large array goes back at once.
         std::vector<Linha>().swap(linhas_);
@@ -60,8 +64,10 @@ void MatrizTexto::redimensionaPreservando(int64_t ultimaLinha) {
     const size_t novo = size_t(ultimaLinha) + 1;
     if (novo < linhas_.size()) {
         for (auto it = outros_.begin(); it != outros_.end();) {
-            if (it->first / 256u >= novo) it = outros_.erase(it);
-            else ++it;
+            if (it->first / 256u >= novo)
+                it = outros_.erase(it);
+            else
+                ++it;
         }
     }
     try {

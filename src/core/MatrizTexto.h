@@ -19,7 +19,7 @@ class MatrizTexto {
 public:
     // Cell codes of the compact store.
     static constexpr uint8_t Vazio = 0;
-    static constexpr uint8_t Fim = 1;           // "#"
+    static constexpr uint8_t Fim = 1;            // "#"
     static constexpr uint8_t PrimeiroNumero = 2; // "00" is 2, "99" is 101
     static constexpr uint8_t Outro = 255;        // any other text, kept aside
 
@@ -91,7 +91,8 @@ private:
 // One-dimensional array with fixed bounds; an index outside is failure 9.
 template <typename T> class Vetor {
 public:
-    Vetor(int64_t inferior, int64_t superior) : inferior_(inferior), dados_(size_t(superior - inferior + 1)) {}
+    Vetor(int64_t inferior, int64_t superior)
+        : inferior_(inferior), dados_(size_t(superior - inferior + 1)) {}
     T& operator()(int64_t i) {
         verifica(i);
         return dados_[size_t(i - inferior_)];

@@ -10,8 +10,10 @@ namespace sorvelo {
 
 QString apara(const QString& s) {
     qsizetype ini = 0, fim = s.size();
-    while (ini < fim && s[ini] == u' ') ++ini;
-    while (fim > ini && s[fim - 1] == u' ') --fim;
+    while (ini < fim && s[ini] == u' ')
+        ++ini;
+    while (fim > ini && s[fim - 1] == u' ')
+        --fim;
     return s.mid(ini, fim - ini);
 }
 
@@ -84,7 +86,9 @@ QString FormataNumero(QString& Texto) {
     }
 }
 
-QString TextoInteiro(double Valor) { return apara(textoNumero(std::trunc(Valor))); }
+QString TextoInteiro(double Valor) {
+    return apara(textoNumero(std::trunc(Valor)));
+}
 
 void ApagaArquivo(const QString& Nome) {
     if (!Nome.isEmpty()) QFile::remove(Nome);

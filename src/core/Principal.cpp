@@ -61,38 +61,55 @@ void Redimensiona(Programa& p, int largura, int altura) {
     if (altura - 1425 >= 0) t.BarraVert.Height = altura - 1425;
 }
 
-void EscondeAjuda(Programa& p) { p.tela.HelpRotinaVisible.fill(false); }
+void EscondeAjuda(Programa& p) {
+    p.tela.HelpRotinaVisible.fill(false);
+}
 
 void MovimentoMouse(Programa& p, Regiao onde, int x, int y) {
     auto& t = p.tela;
     auto mostra = [&](std::initializer_list<int> marcas) {
         t.ContAjuda = 0;
         EscondeAjuda(p);
-        for (int m : marcas) t.HelpRotinaVisible[size_t(m)] = true;
+        for (int m : marcas)
+            t.HelpRotinaVisible[size_t(m)] = true;
     };
     switch (onde) {
-    case Regiao::Frame2: mostra({0}); break;
+    case Regiao::Frame2:
+        mostra({0});
+        break;
     case Regiao::Frame3:
-        if (y < 960) mostra({1, 2});
-        else mostra({3});
+        if (y < 960)
+            mostra({1, 2});
+        else
+            mostra({3});
         break;
     case Regiao::FraBanco:
-        if (x < 2800) mostra({4});
-        else mostra({5});
+        if (x < 2800)
+            mostra({4});
+        else
+            mostra({5});
         break;
-    case Regiao::Frame5: mostra({6}); break;
+    case Regiao::Frame5:
+        mostra({6});
+        break;
     case Regiao::Frame1:
         mostra({7});
         t.PicSort1Imagem = 3;
         break;
-    case Regiao::BtnIniciar: t.HelpRotinaVisible[0] = false; break;
-    case Regiao::BtnFechar: t.HelpRotinaVisible[1] = false; break;
+    case Regiao::BtnIniciar:
+        t.HelpRotinaVisible[0] = false;
+        break;
+    case Regiao::BtnFechar:
+        t.HelpRotinaVisible[1] = false;
+        break;
     case Regiao::BtnSortear:
     case Regiao::BtnDigitar:
         t.HelpRotinaVisible[2] = false;
         t.HelpRotinaVisible[3] = false;
         break;
-    case Regiao::BtnReduz: t.HelpRotinaVisible[6] = false; break;
+    case Regiao::BtnReduz:
+        t.HelpRotinaVisible[6] = false;
+        break;
     }
 }
 

@@ -20,7 +20,18 @@ void MudaBarraVert(Programa& p, int valor);
 void Redimensiona(Programa& p, int largura, int altura);
 
 // Where the mouse moves, for the help marks.
-enum class Regiao { Frame1, Frame2, Frame3, Frame5, FraBanco, BtnIniciar, BtnFechar, BtnSortear, BtnDigitar, BtnReduz };
+enum class Regiao {
+    Frame1,
+    Frame2,
+    Frame3,
+    Frame5,
+    FraBanco,
+    BtnIniciar,
+    BtnFechar,
+    BtnSortear,
+    BtnDigitar,
+    BtnReduz
+};
 void EscondeAjuda(Programa& p);
 void MovimentoMouse(Programa& p, Regiao onde, int x, int y);
 

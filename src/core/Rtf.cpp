@@ -225,11 +225,11 @@ struct Grupo {
 };
 
 class Leitor {
-  public:
+public:
     explicit Leitor(const QByteArray& rtf) : d_(rtf.constData()), n_(rtf.size()) {}
     void le(DocumentoRico& saida);
 
-  private:
+private:
     void controle();
     void palavra(std::string_view nome, bool temParametro, int64_t parametro);
     void simbolo(char c);

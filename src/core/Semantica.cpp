@@ -9,22 +9,38 @@ namespace sorvelo {
 
 QString textoErro(int numero) {
     switch (numero) {
-    case erro::ChamadaInvalida: return QStringLiteral("Chamada de procedimento ou argumento inválido");
-    case erro::Estouro: return QStringLiteral("Estouro");
-    case erro::MemoriaInsuficiente: return QStringLiteral("Memória insuficiente");
-    case erro::SubscritoForaIntervalo: return QStringLiteral("Subscrito fora do intervalo");
-    case erro::DivisaoPorZero: return QStringLiteral("Divisão por zero");
-    case erro::TiposIncompativeis: return QStringLiteral("Tipos incompatíveis");
-    case erro::NomeArquivoInvalido: return QStringLiteral("Nome ou número de arquivo inválido");
-    case erro::ArquivoNaoEncontrado: return QStringLiteral("Arquivo não encontrado");
-    case erro::ErroEntradaSaida: return QStringLiteral("Erro de E/S de dispositivo");
-    case erro::DiscoCheio: return QStringLiteral("Disco cheio");
-    case erro::PermissaoNegada: return QStringLiteral("Permissão negada");
-    case erro::AcessoCaminho: return QStringLiteral("Erro de acesso a caminho/arquivo");
-    case erro::CaminhoNaoEncontrado: return QStringLiteral("Caminho não encontrado");
-    case erro::ElementoControle: return QStringLiteral("O elemento da matriz de controle não existe");
-    case erro::Impressora: return QStringLiteral("Erro de impressora");
-    default: return QStringLiteral("Erro definido pelo aplicativo ou pelo objeto");
+    case erro::ChamadaInvalida:
+        return QStringLiteral("Chamada de procedimento ou argumento inválido");
+    case erro::Estouro:
+        return QStringLiteral("Estouro");
+    case erro::MemoriaInsuficiente:
+        return QStringLiteral("Memória insuficiente");
+    case erro::SubscritoForaIntervalo:
+        return QStringLiteral("Subscrito fora do intervalo");
+    case erro::DivisaoPorZero:
+        return QStringLiteral("Divisão por zero");
+    case erro::TiposIncompativeis:
+        return QStringLiteral("Tipos incompatíveis");
+    case erro::NomeArquivoInvalido:
+        return QStringLiteral("Nome ou número de arquivo inválido");
+    case erro::ArquivoNaoEncontrado:
+        return QStringLiteral("Arquivo não encontrado");
+    case erro::ErroEntradaSaida:
+        return QStringLiteral("Erro de E/S de dispositivo");
+    case erro::DiscoCheio:
+        return QStringLiteral("Disco cheio");
+    case erro::PermissaoNegada:
+        return QStringLiteral("Permissão negada");
+    case erro::AcessoCaminho:
+        return QStringLiteral("Erro de acesso a caminho/arquivo");
+    case erro::CaminhoNaoEncontrado:
+        return QStringLiteral("Caminho não encontrado");
+    case erro::ElementoControle:
+        return QStringLiteral("O elemento da matriz de controle não existe");
+    case erro::Impressora:
+        return QStringLiteral("Erro de impressora");
+    default:
+        return QStringLiteral("Erro definido pelo aplicativo ou pelo objeto");
     }
 }
 
@@ -43,8 +59,12 @@ QString mensagemFalha(const FalhaExecucao& f) {
     return QStringLiteral("Erro em tempo de execução '%1':\r\n\r\n%2").arg(f.numero()).arg(f.texto());
 }
 
-void estouro() { throw FalhaExecucao(erro::Estouro); }
-void foraDoIntervalo() { throw FalhaExecucao(erro::SubscritoForaIntervalo); }
+void estouro() {
+    throw FalhaExecucao(erro::Estouro);
+}
+void foraDoIntervalo() {
+    throw FalhaExecucao(erro::SubscritoForaIntervalo);
+}
 
 namespace {
 template <typename T> T arredondaVerificado(double valor) {
@@ -60,14 +80,26 @@ template <typename T> T estreitaVerificado(int64_t valor) {
 }
 } // namespace
 
-int16_t paraInt16(double valor) { return arredondaVerificado<int16_t>(valor); }
-int32_t paraInt32(double valor) { return arredondaVerificado<int32_t>(valor); }
-int16_t paraInt16(int64_t valor) { return estreitaVerificado<int16_t>(valor); }
-int32_t paraInt32(int64_t valor) { return estreitaVerificado<int32_t>(valor); }
+int16_t paraInt16(double valor) {
+    return arredondaVerificado<int16_t>(valor);
+}
+int32_t paraInt32(double valor) {
+    return arredondaVerificado<int32_t>(valor);
+}
+int16_t paraInt16(int64_t valor) {
+    return estreitaVerificado<int16_t>(valor);
+}
+int32_t paraInt32(int64_t valor) {
+    return estreitaVerificado<int32_t>(valor);
+}
 
 namespace {
-bool ehBranco(QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; }
-bool ehDigito(QChar c) { return c >= u'0' && c <= u'9'; }
+bool ehBranco(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n';
+}
+bool ehDigito(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
 } // namespace
 
 double valorNumerico(const QString& texto) {
@@ -76,7 +108,8 @@ double valorNumerico(const QString& texto) {
     int i = 0;
     const int n = int(texto.size());
     auto proximo = [&]() -> QChar {
-        while (i < n && ehBranco(texto[i])) ++i;
+        while (i < n && ehBranco(texto[i]))
+            ++i;
         return i < n ? texto[i] : QChar();
     };
     QChar c = proximo();
@@ -121,8 +154,10 @@ double valorNumerico(const QString& texto) {
             ++i;
             c = proximo();
         }
-        if (temDigitoExp) numero += expoente;
-        else i = guarda;
+        if (temDigitoExp)
+            numero += expoente;
+        else
+            i = guarda;
     }
     const double v = std::strtod(numero.c_str(), nullptr);
     if (std::isinf(v)) estouro();
@@ -165,7 +200,11 @@ QString textoFlutuante(double numero, int significativos) {
 }
 } // namespace
 
-QString textoNumero(double numero) { return textoFlutuante(numero, 15); }
-QString textoNumeroSimples(float numero) { return textoFlutuante(double(numero), 7); }
+QString textoNumero(double numero) {
+    return textoFlutuante(numero, 15);
+}
+QString textoNumeroSimples(float numero) {
+    return textoFlutuante(double(numero), 7);
+}
 
 } // namespace sorvelo

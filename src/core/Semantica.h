@@ -76,9 +76,18 @@ public:
     static InteiroVerificado de(double v) { return InteiroVerificado(converte(v)); }
     constexpr T valor() const { return v_; }
 
-    InteiroVerificado& operator=(T v) { v_ = v; return *this; }
-    InteiroVerificado& operator+=(int64_t d) { v_ = converte(int64_t(v_) + d); return *this; }
-    InteiroVerificado& operator-=(int64_t d) { v_ = converte(int64_t(v_) - d); return *this; }
+    InteiroVerificado& operator=(T v) {
+        v_ = v;
+        return *this;
+    }
+    InteiroVerificado& operator+=(int64_t d) {
+        v_ = converte(int64_t(v_) + d);
+        return *this;
+    }
+    InteiroVerificado& operator-=(int64_t d) {
+        v_ = converte(int64_t(v_) - d);
+        return *this;
+    }
     InteiroVerificado& operator++() { return *this += 1; }
     InteiroVerificado& operator--() { return *this -= 1; }
     friend InteiroVerificado operator+(InteiroVerificado a, int64_t b) { return de(int64_t(a.v_) + b); }
@@ -98,10 +107,18 @@ private:
     T v_ = 0;
 };
 
-template <> inline int16_t InteiroVerificado<int16_t>::converte(int64_t v) { return paraInt16(v); }
-template <> inline int16_t InteiroVerificado<int16_t>::converte(double v) { return paraInt16(v); }
-template <> inline int32_t InteiroVerificado<int32_t>::converte(int64_t v) { return paraInt32(v); }
-template <> inline int32_t InteiroVerificado<int32_t>::converte(double v) { return paraInt32(v); }
+template <> inline int16_t InteiroVerificado<int16_t>::converte(int64_t v) {
+    return paraInt16(v);
+}
+template <> inline int16_t InteiroVerificado<int16_t>::converte(double v) {
+    return paraInt16(v);
+}
+template <> inline int32_t InteiroVerificado<int32_t>::converte(int64_t v) {
+    return paraInt32(v);
+}
+template <> inline int32_t InteiroVerificado<int32_t>::converte(double v) {
+    return paraInt32(v);
+}
 
 using Int16 = InteiroVerificado<int16_t>;
 using Int32 = InteiroVerificado<int32_t>;
@@ -114,7 +131,9 @@ double valorNumerico(const QString& texto);
 
 // A mask of zeros ("00", "00000", "000000"): pads on the left, never cuts.
 QString formata(int64_t numero, int digitos);
-inline QString formata00(int64_t numero) { return formata(numero, 2); }
+inline QString formata00(int64_t numero) {
+    return formata(numero, 2);
+}
 
 // A number turned into text with the blank that stands for a plus sign:
 // " 12", "-3", " 4.5", " .5", " 1E+15".

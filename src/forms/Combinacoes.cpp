@@ -23,14 +23,18 @@ JanelaCombinacoes::JanelaCombinacoes(Programa& p, QWidget* pai)
     lblValAp_ = rotulo(QString(), 3060, 1140, 1000, 255, "LblValAp");
     QFont negrito = font();
     negrito.setBold(true);
-    for (QLabel* l : {lblDezComb_, lblDezCart_, lblTotAp_, lblValAp_}) l->setFont(negrito);
-    chkEst_ = poe(new QCheckBox(QStringLiteral("Fazer estatística de acertos")), this, "ChkEst", 240, 1500, 4800, 300);
+    for (QLabel* l : {lblDezComb_, lblDezCart_, lblTotAp_, lblValAp_})
+        l->setFont(negrito);
+    chkEst_ = poe(new QCheckBox(QStringLiteral("Fazer estatística de acertos")), this, "ChkEst", 240, 1500,
+                  4800, 300);
     chkAuto_ = poe(new QCheckBox(QStringLiteral("Auto-completar")), this, "ChkAuto", 240, 1500, 4800, 300);
     progresso_ = poe(new QProgressBar, this, "Progresso", 240, 1920, 4920, 300);
     progresso_->setTextVisible(false);
     lblMensagem_ = rotulo(QString(), 240, 2280, 4920, 255, "LblMensagem");
-    auto* iniciar = poe(new QPushButton(QStringLiteral("Iniciar combinação")), this, "BtnIniciar", 480, 2760, 2100, 435);
-    auto* cancelar = poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 2820, 2760, 2100, 435);
+    auto* iniciar =
+        poe(new QPushButton(QStringLiteral("Iniciar combinação")), this, "BtnIniciar", 480, 2760, 2100, 435);
+    auto* cancelar =
+        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 2820, 2760, 2100, 435);
     iniciar->setDefault(false);
     iniciar->setAutoDefault(false);
     cancelar->setAutoDefault(false);
@@ -47,7 +51,9 @@ JanelaCombinacoes::JanelaCombinacoes(Programa& p, QWidget* pai)
     };
 }
 
-JanelaCombinacoes::~JanelaCombinacoes() { module2(p_).aoMudarProgresso = nullptr; }
+JanelaCombinacoes::~JanelaCombinacoes() {
+    module2(p_).aoMudarProgresso = nullptr;
+}
 
 void JanelaCombinacoes::sincroniza() {
     sincronizando_ = true;
@@ -82,7 +88,8 @@ JanelaInsereVetor::JanelaInsereVetor(Programa& p, QWidget* pai)
     rotulo(v_.Label1, 240, 240, 4320, 255, "Label1");
     lblCont_ = rotulo(QString(), 240, 660, 1800, 255, "LblCont");
     lblTotal_ = rotulo(QString(), 2100, 660, 2400, 255, "LblTotal");
-    auto* cancelar = poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 1500, 1140, 1800, 435);
+    auto* cancelar =
+        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 1500, 1140, 1800, 435);
     cancelar->setAutoDefault(false);
     liga(cancelar, &QPushButton::clicked, [this] { v_.BtnCancelar(); });
     v_.aoContar = [this](const QString& t) { lblCont_->setText(t); };

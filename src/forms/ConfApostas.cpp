@@ -24,8 +24,10 @@ JanelaConfApostas::JanelaConfApostas(Programa& p, ConfApostas& logica, QWidget* 
     escala_.rotulo(fraConf_, c_.tela.Label5, 6240, 240, 700, 255, "Label5");
     lblMensagem_ = escala_.rotulo(fraConf_, QString(), 120, 720, 6000, 255, "LblMensagem");
     auto* iniciar = poe(new QPushButton(c_.tela.BtnIniciar), fraConf_, "BtnIniciar", 120, 1200, 2400, 435);
-    auto* imprimir = poe(new QPushButton(c_.tela.BtnImprimir), fraConf_, "BtnImprimir", 2640, 1200, 1800, 435);
-    auto* cancelar = poe(new QPushButton(c_.tela.BtnCancelar), fraConf_, "BtnCancelar", 4560, 1200, 1800, 435);
+    auto* imprimir =
+        poe(new QPushButton(c_.tela.BtnImprimir), fraConf_, "BtnImprimir", 2640, 1200, 1800, 435);
+    auto* cancelar =
+        poe(new QPushButton(c_.tela.BtnCancelar), fraConf_, "BtnCancelar", 4560, 1200, 1800, 435);
 
     liga(txtPontos_, &QLineEdit::textEdited, [this](const QString& t) { c_.tela.TxtPontos.Text = t; });
     liga(iniciar, &QPushButton::clicked, [this] { c_.BtnIniciar(); });
@@ -48,7 +50,8 @@ void JanelaConfApostas::sincroniza() {
 
 bool JanelaConfApostas::event(QEvent* e) {
     if (e->type() == QEvent::WindowActivate) {
-        if (ignorarAtivacao_) ignorarAtivacao_ = false;
+        if (ignorarAtivacao_)
+            ignorarAtivacao_ = false;
         else {
             executaProtegido([this] { c_.Ativa(); });
             sincroniza();

@@ -13,21 +13,21 @@ namespace sorvelo {
 // A label cell of the grid: centred text on a back colour.
 class CelulaNumero : public QWidget {
     Q_OBJECT
-  public:
+public:
     explicit CelulaNumero(QWidget* pai = nullptr);
     void define(const QString& texto, QColor fundo, QColor frente);
     QString text() const { return texto_; }
     QColor fundo() const { return fundo_; }
     QColor frente() const { return frente_; }
 
-  signals:
+signals:
     void clicked();
 
-  protected:
+protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent* e) override;
 
-  private:
+private:
     QString texto_;
     QColor fundo_, frente_;
 };
@@ -35,7 +35,7 @@ class CelulaNumero : public QWidget {
 // Up and down arrows over a value from Min to Max.
 class BotaoGiro : public QWidget {
     Q_OBJECT
-  public:
+public:
     explicit BotaoGiro(QWidget* pai = nullptr);
     int value() const { return valor_; }
     // Sets the value; valueChanged is raised when it changes.
@@ -46,10 +46,10 @@ class BotaoGiro : public QWidget {
         max_ = max;
     }
 
-  signals:
+signals:
     void valueChanged(int);
 
-  private:
+private:
     QToolButton *cima_, *baixo_;
     int valor_ = 0, min_ = 0, max_ = 100;
 };
@@ -57,16 +57,16 @@ class BotaoGiro : public QWidget {
 // A picture that answers clicks and reports the mouse.
 class Figura : public QLabel {
     Q_OBJECT
-  public:
+public:
     using QLabel::QLabel;
 
-  signals:
+signals:
     void clicked();
     void pressionado();
     void solto();
     void movido(int x, int y);
 
-  protected:
+protected:
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
@@ -74,11 +74,11 @@ class Figura : public QLabel {
 
 // Enter, in a window of the program, is swallowed and a Tab takes its place.
 class FiltroEnter : public QObject {
-  public:
+public:
     using QObject::QObject;
     static void instala();
 
-  protected:
+protected:
     bool eventFilter(QObject* alvo, QEvent* e) override;
 };
 

@@ -17,7 +17,9 @@ Formulario::Formulario(Programa& p, const char* nome, const QString& titulo, QWi
     FiltroEnter::instala();
 }
 
-void Formulario::tamanho(int largura, int altura) { setFixedSize(tw(largura), tw(altura)); }
+void Formulario::tamanho(int largura, int altura) {
+    setFixedSize(tw(largura), tw(altura));
+}
 
 void Formulario::mostraModal() {
     sincroniza();

@@ -26,7 +26,8 @@ public:
 
 protected:
     template <typename S, typename Sinal, typename F> void liga(S* emissor, Sinal sinal, F f) {
-        ligaProtegido(this, emissor, sinal, &sincronizando_, [this] { sincroniza(); }, std::move(f));
+        ligaProtegido(
+            this, emissor, sinal, &sincronizando_, [this] { sincroniza(); }, std::move(f));
     }
     template <typename W> W* poe(W* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
         return escala_.poe(w, pai, nome, x, y, l, a);

@@ -16,7 +16,7 @@
 namespace sorvelo {
 
 class Escala {
-  public:
+public:
     explicit Escala(const QWidget* referencia = nullptr);
     int tw(int twips) const;
     int deTw(int pixels) const;
@@ -31,7 +31,7 @@ class Escala {
     QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a,
                    const char* nome = nullptr) const;
 
-  private:
+private:
     double dpi_ = 96;
 };
 

@@ -305,8 +305,8 @@ void Sorvelo::montaQuadroBanco() {
         375);
     poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
         2415, 375);
-    auto* conferir =
-        poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120, 4440, 2535, 375);
+    auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
+                         4440, 2535, 375);
     liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });
     fraBanco_->setMouseTracking(true);
     fraBanco_->installEventFilter(this);

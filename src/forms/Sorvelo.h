@@ -35,7 +35,7 @@ class Figura;
 
 class Sorvelo : public QMainWindow {
     Q_OBJECT
-  public:
+public:
     // Runs the form's load on the program's state.
     explicit Sorvelo(Programa& p, QWidget* pai = nullptr);
     ~Sorvelo() override;
@@ -47,16 +47,16 @@ class Sorvelo : public QMainWindow {
     int tw(int twips) const { return escala_.tw(twips); }
     int deTw(int pixels) const { return escala_.deTw(pixels); }
 
-  signals:
+signals:
     // The close flow ran: the program ends.
     void encerrado();
 
-  protected:
+protected:
     void closeEvent(QCloseEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
-  private:
+private:
     void montaMenus();
     void montaBarra();
     void montaQuadroNumeros();

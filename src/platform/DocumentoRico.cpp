@@ -39,7 +39,8 @@ void DocumentoRico::acrescenta(QStringView pedaco, Formato formato) {
     const int64_t inicio = texto_.size();
     try {
         const uint16_t f = indiceFormato(formato);
-        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f) trechos_.push_back(uint64_t(inicio) << 16 | f);
+        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f)
+            trechos_.push_back(uint64_t(inicio) << 16 | f);
         texto_.append(pedaco);
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
@@ -120,14 +121,17 @@ std::vector<Trecho> DocumentoRico::trechos(int64_t inicio, int64_t fim) const {
     for (; it != trechos_.end(); ++it) {
         const int64_t ini = int64_t(*it >> 16);
         if (ini >= fim) break;
-        const int64_t proximo = (it + 1 != trechos_.end()) ? int64_t(*(it + 1) >> 16) : int64_t(texto_.size());
+        const int64_t proximo =
+            (it + 1 != trechos_.end()) ? int64_t(*(it + 1) >> 16) : int64_t(texto_.size());
         const int64_t a = std::max(ini, inicio), b = std::min(proximo, fim);
         if (a < b) r.push_back({a, b, formatos_[*it & 0xFFFF]});
     }
     return r;
 }
 
-std::vector<Trecho> DocumentoRico::trechos() const { return trechos(0, texto_.size()); }
+std::vector<Trecho> DocumentoRico::trechos() const {
+    return trechos(0, texto_.size());
+}
 
 void DocumentoRico::defineVisivel(bool v) {
     if (v == visivel_) return;

@@ -12,10 +12,18 @@
 namespace sorvelo {
 
 using Cor = uint32_t; // 0xRRGGBB
-constexpr Cor rgb(int r, int g, int b) { return Cor((r << 16) | (g << 8) | b); }
-constexpr int vermelho(Cor c) { return int((c >> 16) & 0xFF); }
-constexpr int verde(Cor c) { return int((c >> 8) & 0xFF); }
-constexpr int azul(Cor c) { return int(c & 0xFF); }
+constexpr Cor rgb(int r, int g, int b) {
+    return Cor((r << 16) | (g << 8) | b);
+}
+constexpr int vermelho(Cor c) {
+    return int((c >> 16) & 0xFF);
+}
+constexpr int verde(Cor c) {
+    return int((c >> 8) & 0xFF);
+}
+constexpr int azul(Cor c) {
+    return int(c & 0xFF);
+}
 
 struct Formato {
     Cor cor = 0;

@@ -19,9 +19,15 @@ Resposta CaixaRoteirizada::registra(CaixaVista v) {
     return v.resposta;
 }
 
-void CaixaRoteirizada::informacao(const QString& texto) { registra({CaixaVista::Tipo::Informacao, texto}); }
-void CaixaRoteirizada::aviso(const QString& texto) { registra({CaixaVista::Tipo::Aviso, texto}); }
-void CaixaRoteirizada::critico(const QString& texto) { registra({CaixaVista::Tipo::Critico, texto}); }
+void CaixaRoteirizada::informacao(const QString& texto) {
+    registra({CaixaVista::Tipo::Informacao, texto});
+}
+void CaixaRoteirizada::aviso(const QString& texto) {
+    registra({CaixaVista::Tipo::Aviso, texto});
+}
+void CaixaRoteirizada::critico(const QString& texto) {
+    registra({CaixaVista::Tipo::Critico, texto});
+}
 
 Resposta CaixaRoteirizada::pergunta(const QString& texto, Botoes botoes, Resposta padrao) {
     return registra({CaixaVista::Tipo::Pergunta, texto, botoes, padrao});
@@ -58,8 +64,12 @@ void ImpressoraRegistro::anota(const QString& linha) {
 void ImpressoraRegistro::defineFonte(const QString& nome, double tamanho) {
     anota(QStringLiteral("fonte %1 %2").arg(nome).arg(tamanho));
 }
-void ImpressoraRegistro::imprime(const QString& texto) { anota(QStringLiteral("texto ") + texto); }
-void ImpressoraRegistro::fim() { anota(QStringLiteral("fim")); }
+void ImpressoraRegistro::imprime(const QString& texto) {
+    anota(QStringLiteral("texto ") + texto);
+}
+void ImpressoraRegistro::fim() {
+    anota(QStringLiteral("fim"));
+}
 
 float FonteRoteirizada::rnd() {
     if (!valores_.empty()) {

@@ -34,7 +34,10 @@ public:
     // Questions that came with no scripted answer.
     std::vector<CaixaVista> naoRoteirizadas() const;
     size_t respostasPendentes() const { return respostas_.size(); }
-    void limpa() { vistas_.clear(); respostas_.clear(); }
+    void limpa() {
+        vistas_.clear();
+        respostas_.clear();
+    }
     // Called after each box is recorded (the scenario runner writes it down).
     std::function<void(const CaixaVista&)> aoMostrar;
 
@@ -80,7 +83,10 @@ class FonteRoteirizada : public FonteAleatoria {
 public:
     void enfileira(float r) { valores_.push_back(r); }
     float rnd() override;
-    void randomize(double semente) override { sementes.push_back(semente); gerador_.randomize(semente); }
+    void randomize(double semente) override {
+        sementes.push_back(semente);
+        gerador_.randomize(semente);
+    }
     std::vector<double> sementes;
 
 private:
@@ -90,7 +96,8 @@ private:
 
 class RelogioFixo : public Relogio {
 public:
-    explicit RelogioFixo(QDateTime momento = QDateTime(QDate(2026, 11, 22), QTime(14, 5, 9))) : momento(momento) {}
+    explicit RelogioFixo(QDateTime momento = QDateTime(QDate(2026, 11, 22), QTime(14, 5, 9)))
+        : momento(momento) {}
     QDateTime agora() override { return momento; }
     QDateTime momento;
 };

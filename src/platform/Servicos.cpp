@@ -17,8 +17,12 @@ void GeradorClassico::randomize(double semente) {
     x_ = (x_ & 0xFF0000FFu) | (mistura & 0x00FFFF00u);
 }
 
-QString textoData(const QDateTime& momento) { return momento.date().toString(QStringLiteral("dd/MM/yyyy")); }
-QString textoHora(const QDateTime& momento) { return momento.time().toString(QStringLiteral("HH:mm:ss")); }
+QString textoData(const QDateTime& momento) {
+    return momento.date().toString(QStringLiteral("dd/MM/yyyy"));
+}
+QString textoHora(const QDateTime& momento) {
+    return momento.time().toString(QStringLiteral("HH:mm:ss"));
+}
 
 void randomizeRelogio(FonteAleatoria& fonte, Relogio& relogio) {
     const QTime t = relogio.agora().time();

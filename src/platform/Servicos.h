@@ -48,7 +48,7 @@ public:
 class FonteAleatoria {
 public:
     virtual ~FonteAleatoria() = default;
-    virtual float rnd() = 0;             // 0 <= r < 1
+    virtual float rnd() = 0; // 0 <= r < 1
     virtual void randomize(double semente) = 0;
 };
 

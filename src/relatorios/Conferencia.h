@@ -41,7 +41,7 @@ struct TelaConfApostas {
 // bank, its file name and the game are read when "Iniciar conferência" is
 // pressed.
 class ConfApostas {
-  public:
+public:
     explicit ConfApostas(Programa& p) : p_(p) {}
     ConfApostas(const ConfApostas&) = delete;
     ConfApostas& operator=(const ConfApostas&) = delete;
@@ -65,7 +65,7 @@ class ConfApostas {
     // Listed bets per score; only 0 to 99 are cleared and reported.
     Vetor<Int16> VetPontos{0, 100};
 
-  private:
+private:
     Programa& p_;
     bool fechada_ = false;
 };

@@ -34,7 +34,7 @@ ConjuntoDezenas conjuntoDaLinha(const uint8_t* celulas, int quant);
 
 // A draw (VetDezenas, VetDezenas2): its entries 0 to 79 up to the "#".
 class SorteioRapido {
-  public:
+public:
     explicit SorteioRapido(const Vetor<QString>& sorteio);
     // The hits of a regular row.
     int pontos(ConjuntoDezenas aposta) const {
@@ -44,7 +44,7 @@ class SorteioRapido {
         return n;
     }
 
-  private:
+private:
     ConjuntoDezenas primeira_;               // every number of the draw
     std::vector<ConjuntoDezenas> repetidas_; // layer k: numbers drawn more than k + 1 times
 };
@@ -52,7 +52,7 @@ class SorteioRapido {
 // The sets of a range of rows of a bank, built once and scored against any
 // number of draws.
 class IndiceApostas {
-  public:
+public:
     // Rows inicio to fim - 1 (rows outside the bank's bounds are irregular).
     void constroi(const MatrizTexto& banco, int64_t inicio, int64_t fim);
     int64_t inicio() const { return inicio_; }
@@ -61,7 +61,7 @@ class IndiceApostas {
     // Scores of the rows into `pontos` (one per row); -1 for an irregular row.
     void pontua(const SorteioRapido& sorteio, int16_t* pontos) const;
 
-  private:
+private:
     int64_t inicio_ = 0;
     std::vector<ConjuntoDezenas> conjuntos_;
 };
@@ -70,7 +70,7 @@ class IndiceApostas {
 // blocks of sets; an irregular row is handed to the text comparison at its
 // turn, so a failure comes at the row where the text comparison has it.
 class PontuadorBanco {
-  public:
+public:
     enum class Sorteio { Resultado, Teste }; // VetDezenas, VetDezenas2
     // Neither the bank nor the draw may change while it is in use: a block
     // of scores is computed ahead.
@@ -84,7 +84,7 @@ class PontuadorBanco {
         return pontosDevagar(Index);
     }
 
-  private:
+private:
     static constexpr int64_t Bloco = 4096;
     void preparaBloco(int64_t inicio);
     Int16 pontosDevagar(Int32 Index);

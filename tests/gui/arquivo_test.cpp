@@ -32,10 +32,12 @@ protected:
         FAIL() << nome;
     }
     void montaBanco() {
-        for (int c : {0, 1, 2, 3, 4, 5}) ClicaNumero(p, Int16(int16_t(c)));
+        for (int c : {0, 1, 2, 3, 4, 5})
+            ClicaNumero(p, Int16(int16_t(c)));
         InsereApostaMarcada(p);
         LimpaNumeros(p);
-        for (int c : {10, 11, 12, 13, 14, 15, 16}) ClicaNumero(p, Int16(int16_t(c)));
+        for (int c : {10, 11, 12, 13, 14, 15, 16})
+            ClicaNumero(p, Int16(int16_t(c)));
         InsereApostaMarcada(p);
         LimpaNumeros(p);
         ClicaNumero(p, 20);
@@ -95,7 +97,8 @@ TEST_F(ArquivoDeApostas, BarraSalvaPerguntaSobrescreverEAbre) {
     duplos.caixa.responde(Resposta::Nao);
     janela->findChild<QToolButton*>(QStringLiteral("BarraSup(3)"))->click();
     ASSERT_FALSE(duplos.caixa.vistas().empty());
-    EXPECT_EQ(duplos.caixa.vistas().back().texto, QStringLiteral("Este nome de arquivo já existe! Deseja sobrescrever?"));
+    EXPECT_EQ(duplos.caixa.vistas().back().texto,
+              QStringLiteral("Este nome de arquivo já existe! Deseja sobrescrever?"));
     EXPECT_EQ(duplos.caixa.vistas().back().padrao, Resposta::Nao);
     EXPECT_TRUE(p.e.BancoAlterado) << "Não leaves the flag as it was";
     duplos.caixa.responde(Resposta::Sim);

@@ -59,7 +59,8 @@ protected:
 };
 
 TEST_F(FluxoCombinacao, SeteNumerosSeisAUmaVirandoSeteApostasEmOrdem) {
-    for (int c : {0, 1, 2, 3, 4, 5, 6}) ClicaNumero(p, Int16(int16_t(c)));
+    for (int c : {0, 1, 2, 3, 4, 5, 6})
+        ClicaNumero(p, Int16(int16_t(c)));
     QString total, valor;
     bool estVisivel = false, autoVisivel = true;
     quandoAbrir({[&](QWidget* d) {
@@ -79,13 +80,15 @@ TEST_F(FluxoCombinacao, SeteNumerosSeisAUmaVirandoSeteApostasEmOrdem) {
     EXPECT_EQ(p.e.QuantBan, 7);
     const QString texto = p.tela.TxtBanco.texto();
     EXPECT_TRUE(texto.startsWith(QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 07 \r\n")));
-    EXPECT_TRUE(texto.contains(QStringLiteral("00001)   01 02 03 04 05 06 \r\n00002)   01 02 03 04 05 07 \r\n")));
+    EXPECT_TRUE(
+        texto.contains(QStringLiteral("00001)   01 02 03 04 05 06 \r\n00002)   01 02 03 04 05 07 \r\n")));
     EXPECT_TRUE(texto.contains(QStringLiteral("00007)   02 03 04 05 06 07 \r\n")));
     EXPECT_TRUE(p.tela.TxtBanco.visivel());
 }
 
 TEST_F(FluxoCombinacao, CancelarNoDialogoNaoTocaOBanco) {
-    for (int c : {0, 1, 2, 3, 4, 5, 6}) ClicaNumero(p, Int16(int16_t(c)));
+    for (int c : {0, 1, 2, 3, 4, 5, 6})
+        ClicaNumero(p, Int16(int16_t(c)));
     quandoAbrir({[](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnCancelar"))->click(); }});
     clica("BtnIniciar");
     EXPECT_EQ(vistos, QStringList({QStringLiteral("Combinacoes")}));
@@ -142,7 +145,8 @@ TEST_F(FluxoCombinacao, FechamentoMostraTodasAsCelulasMarcadasAtrasDoDialogo) {
 }
 
 TEST_F(FluxoCombinacao, SegundoLoteSemLimparRecomecaEm00001) {
-    for (int c : {0, 1, 2, 3, 4, 5}) ClicaNumero(p, Int16(int16_t(c)));
+    for (int c : {0, 1, 2, 3, 4, 5})
+        ClicaNumero(p, Int16(int16_t(c)));
     quandoAbrir({[](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); },
                  [](QWidget*) {}});
     clica("BtnIniciar");

@@ -30,12 +30,13 @@ protected:
     }
     void clicaNumero(int i) {
         QWidget* w = janela->findChild<QWidget*>(QStringLiteral("Num(%1)").arg(i));
-        QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(2, 2), w->mapToGlobal(QPointF(2, 2)), Qt::LeftButton,
-                           Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(2, 2), w->mapToGlobal(QPointF(2, 2)),
+                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(w, &aperta);
     }
     void aposta(std::initializer_list<int> celulas) {
-        for (int c : celulas) ClicaNumero(p, Int16(int16_t(c)));
+        for (int c : celulas)
+            ClicaNumero(p, Int16(int16_t(c)));
         InsereApostaMarcada(p);
         LimpaNumeros(p);
     }
@@ -52,7 +53,8 @@ TEST_F(Conferencia, ListaAsApostasComPontosEConclui) {
     aposta({0, 1, 2, 3, 4, 5});
     aposta({0, 1, 2, 3, 10, 11});
     aposta({20, 21, 22, 23, 24, 25});
-    for (int c : {0, 1, 2, 3, 4, 6}) clicaNumero(c);
+    for (int c : {0, 1, 2, 3, 4, 6})
+        clicaNumero(c);
     JanelaConfApostas* conf = confere();
     ASSERT_NE(conf, nullptr);
     EXPECT_TRUE(conf->isVisible());
@@ -83,7 +85,8 @@ TEST_F(Conferencia, ListaAsApostasComPontosEConclui) {
 
 TEST_F(Conferencia, AJanelaPrincipalContinuaUsavelEMarcasNovasSoValemNoProximoClique) {
     aposta({0, 1, 2, 3, 4, 5});
-    for (int c : {0, 1, 2, 3}) clicaNumero(c);
+    for (int c : {0, 1, 2, 3})
+        clicaNumero(c);
     JanelaConfApostas* conf = confere();
     ASSERT_NE(conf, nullptr);
     clicaNumero(4); // the main window still takes clicks
@@ -111,7 +114,8 @@ TEST_F(Conferencia, SemResultadoAJanelaApareceAvisaEFecha) {
     QApplication::sendPostedEvents();
     ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
     EXPECT_EQ(duplos.caixa.vistas()[0].tipo, CaixaVista::Tipo::Aviso);
-    EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Informe o resultado na seção \"Escolha de números\""));
+    EXPECT_EQ(duplos.caixa.vistas()[0].texto,
+              QStringLiteral("Informe o resultado na seção \"Escolha de números\""));
     EXPECT_TRUE(visivelNoAviso);
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(conf.isNull()) << "the window closed";
@@ -122,7 +126,8 @@ TEST_F(Conferencia, DuplaSenaLembraDoSegundoSorteioAntesDoAviso) {
     QPointer<JanelaConfApostas> conf = confere();
     ASSERT_NE(conf, nullptr);
     ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
-    EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Lembrete: não se esqueça de conferir o segundo sorteio!"));
+    EXPECT_EQ(duplos.caixa.vistas()[0].texto,
+              QStringLiteral("Lembrete: não se esqueça de conferir o segundo sorteio!"));
     QApplication::sendPostedEvents();
     ASSERT_EQ(duplos.caixa.vistas().size(), 2u);
     EXPECT_EQ(duplos.caixa.vistas()[1].tipo, CaixaVista::Tipo::Aviso);

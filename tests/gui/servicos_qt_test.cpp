@@ -5,9 +5,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -32,7 +32,8 @@ struct Respondedor {
             texto = caixa->text();
             modaisDurante = Atividade::modais;
             if (caixa->defaultButton()) padrao = caixa->defaultButton()->text();
-            for (QAbstractButton* b : caixa->buttons()) botoes << b->text();
+            for (QAbstractButton* b : caixa->buttons())
+                botoes << b->text();
             for (QAbstractButton* b : caixa->buttons())
                 if (b->text() == botao) b->click();
         });
@@ -120,8 +121,9 @@ TEST(ServicosQtMorte, OTratadorPadraoMostraAFalhaETerminaOPrograma) {
             QTimer::singleShot(0, [] {
                 auto* caixa = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                 if (caixa) {
-                    std::fprintf(stderr, "[%s] %s\n", qPrintable(caixa->windowTitle()),
-                                 qPrintable(caixa->text().replace(QStringLiteral("\r\n"), QStringLiteral("|"))));
+                    std::fprintf(
+                        stderr, "[%s] %s\n", qPrintable(caixa->windowTitle()),
+                        qPrintable(caixa->text().replace(QStringLiteral("\r\n"), QStringLiteral("|"))));
                     caixa->accept();
                 }
             });

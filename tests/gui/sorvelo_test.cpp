@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -17,7 +18,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QToolButton>
 
@@ -65,7 +65,8 @@ protected:
     void aciona(const QString& nome) { acao(nome)->trigger(); }
     void ticks(int n) {
         auto* t = controle<QTimer>(QStringLiteral("Timer1"));
-        for (int i = 0; i < n; ++i) QMetaObject::invokeMethod(t, "timeout", Qt::DirectConnection);
+        for (int i = 0; i < n; ++i)
+            QMetaObject::invokeMethod(t, "timeout", Qt::DirectConnection);
     }
     QString texto(const QString& nome) { return controle<QLineEdit>(nome)->text(); }
     QColor fundo(int i) { return controle<CelulaNumero>(QStringLiteral("Num(%1)").arg(i))->fundo(); }
@@ -93,17 +94,22 @@ TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloOriginal) {
 
 TEST_F(JanelaPrincipal, TodosOsControlesTemONomeDaDescricao) {
     const QStringList nomes{
-        "BarraSup", "TxtLoteria", "BarraVert", "BarraHoriz", "PicLoteria", "Frame1", "BtnSeta", "FraBanco",
-        "Frame2", "Frame5", "Frame3", "PicSort1", "TxtEscolhidos", "ChkFixar", "TxtValAp", "BtnLimpar",
-        "TxtBanco", "TxtQuantApostas", "TxtValorApostas", "BtnLimparBanco", "BtnFiltrar", "CommandButton2",
-        "BtnConferir", "TxtDezAp", "SpbDezAp", "BtnIniciar", "TxtDezAp2", "SpbDezAp2", "BtnReduz", "CmbGarantia",
-        "CmbAcertar", "ChkReduzir", "CommandButton1", "BtnSortear", "BtnDigitar", "CmbFecha", "BtnFechar",
-        "BtnEliminar", "Num(0)", "Num(104)", "HelpRotina(0)", "HelpRotina(7)", "BarraSup(1)", "BarraSup(10)"};
-    for (const QString& n : nomes) EXPECT_NE(janela->findChild<QObject*>(n), nullptr) << n.toStdString();
-    for (const char* n : {"MenuArquivo", "MenuNovo", "MenuÄbrir", "MenuSalvar", "MenuSalvarComo", "MenuImprimir",
-                             "MenuSair", "MenuLoterias", "MenuMegaSena", "MenuDuplaSena", "MenuQuina",
-                             "MenuLotomania", "MenuLotoFacil", "MenuRelatorios", "MenuImpBanco", "MenuInternet",
-                             "MenuNovidades", "MenuAjuda", "MenuTopicos", "MenuSobre"})
+        "BarraSup",      "TxtLoteria",     "BarraVert",       "BarraHoriz",      "PicLoteria",
+        "Frame1",        "BtnSeta",        "FraBanco",        "Frame2",          "Frame5",
+        "Frame3",        "PicSort1",       "TxtEscolhidos",   "ChkFixar",        "TxtValAp",
+        "BtnLimpar",     "TxtBanco",       "TxtQuantApostas", "TxtValorApostas", "BtnLimparBanco",
+        "BtnFiltrar",    "CommandButton2", "BtnConferir",     "TxtDezAp",        "SpbDezAp",
+        "BtnIniciar",    "TxtDezAp2",      "SpbDezAp2",       "BtnReduz",        "CmbGarantia",
+        "CmbAcertar",    "ChkReduzir",     "CommandButton1",  "BtnSortear",      "BtnDigitar",
+        "CmbFecha",      "BtnFechar",      "BtnEliminar",     "Num(0)",          "Num(104)",
+        "HelpRotina(0)", "HelpRotina(7)",  "BarraSup(1)",     "BarraSup(10)"};
+    for (const QString& n : nomes)
+        EXPECT_NE(janela->findChild<QObject*>(n), nullptr) << n.toStdString();
+    for (const char* n :
+         {"MenuArquivo",  "MenuNovo",      "MenuÄbrir",     "MenuSalvar",     "MenuSalvarComo",
+          "MenuImprimir", "MenuSair",      "MenuLoterias",  "MenuMegaSena",   "MenuDuplaSena",
+          "MenuQuina",    "MenuLotomania", "MenuLotoFacil", "MenuRelatorios", "MenuImpBanco",
+          "MenuInternet", "MenuNovidades", "MenuAjuda",     "MenuTopicos",    "MenuSobre"})
         EXPECT_NE(acao(QString::fromUtf8(n)), nullptr);
 }
 
@@ -138,11 +144,13 @@ TEST_F(JanelaPrincipal, SetaPoeOJogoMarcadoNoBancoEContadoresAparecem) {
     ticks(3);
     EXPECT_EQ(texto(QStringLiteral("TxtQuantApostas")), QStringLiteral(" 0"));
     EXPECT_EQ(texto(QStringLiteral("TxtValorApostas")), QStringLiteral("0,00"));
-    for (int i : {0, 1, 2, 3, 4, 5}) clicaNumero(i);
+    for (int i : {0, 1, 2, 3, 4, 5})
+        clicaNumero(i);
     clicaWidget(controle(QStringLiteral("BtnSeta")));
     EXPECT_EQ(p.tela.TxtBanco.texto(), QStringLiteral("00001)   01 02 03 04 05 06 \r\n"));
     EXPECT_EQ(p.e.QuantBan, 1);
-    EXPECT_EQ(texto(QStringLiteral("TxtQuantApostas")), QStringLiteral(" 0")) << "refreshed by the timer only";
+    EXPECT_EQ(texto(QStringLiteral("TxtQuantApostas")), QStringLiteral(" 0"))
+        << "refreshed by the timer only";
     ticks(3);
     EXPECT_EQ(texto(QStringLiteral("TxtQuantApostas")), QStringLiteral(" 1"));
     EXPECT_EQ(texto(QStringLiteral("TxtValorApostas")), QStringLiteral("4,50"));
@@ -247,7 +255,8 @@ TEST_F(JanelaPrincipal, LimparPerguntaComPadraoNao) {
     clicaNumero(3);
     clicaBotao(QStringLiteral("BtnLimpar"));
     ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
-    EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Tem certeza que deseja apagar todos os números escolhidos?"));
+    EXPECT_EQ(duplos.caixa.vistas()[0].texto,
+              QStringLiteral("Tem certeza que deseja apagar todos os números escolhidos?"));
     EXPECT_EQ(duplos.caixa.vistas()[0].padrao, Resposta::Nao);
     EXPECT_EQ(fundo(3), Azul) << "the default answer is Não";
     duplos.caixa.responde(Resposta::Sim);
@@ -264,7 +273,8 @@ TEST_F(JanelaPrincipal, LimparBancoPerguntaEEsvazia) {
     duplos.caixa.responde(Resposta::Nao); // salvar?
     clicaBotao(QStringLiteral("BtnLimparBanco"));
     ASSERT_EQ(duplos.caixa.vistas().size(), 2u);
-    EXPECT_EQ(duplos.caixa.vistas()[0].texto, QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"));
+    EXPECT_EQ(duplos.caixa.vistas()[0].texto,
+              QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"));
     EXPECT_EQ(duplos.caixa.vistas()[1].texto, QStringLiteral("Deseja salvar as apostas atuais?"));
     EXPECT_EQ(p.e.QuantBan, 0);
     EXPECT_TRUE(p.tela.TxtBanco.texto().isEmpty());
@@ -303,7 +313,8 @@ TEST_F(JanelaPrincipal, EnterEmValorDaApostaPassaOFocoSemEscrever) {
 
 TEST_F(JanelaPrincipal, SetaComOitentaEDuasCelulasTerminaComAFalhaNove) {
     aciona(QStringLiteral("MenuLotomania"));
-    for (int i = 0; i < 82; ++i) clicaNumero(i);
+    for (int i = 0; i < 82; ++i)
+        clicaNumero(i);
     std::optional<int> falha;
     defineTratadorFalha([&](const FalhaExecucao& f) { falha = f.numero(); });
     clicaWidget(controle(QStringLiteral("BtnSeta")));
@@ -344,8 +355,8 @@ TEST_F(JanelaPrincipal, MarcasDeAjudaAparecemEDesaparecem) {
 
 TEST_F(JanelaPrincipal, MoverSobreOBotaoEscondeSoASuaMarca) {
     auto* quadro = controle(QStringLiteral("Frame3"));
-    QMouseEvent sobreQuadro(QEvent::MouseMove, QPointF(10, 10), quadro->mapToGlobal(QPointF(10, 10)), Qt::NoButton,
-                            Qt::NoButton, Qt::NoModifier);
+    QMouseEvent sobreQuadro(QEvent::MouseMove, QPointF(10, 10), quadro->mapToGlobal(QPointF(10, 10)),
+                            Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(quadro, &sobreQuadro);
     ASSERT_TRUE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
     auto* botao = controle(QStringLiteral("BtnFechar"));
@@ -360,12 +371,12 @@ TEST_F(JanelaPrincipal, FiguraDeSortearAfundaAoApertarEVoltaAoSoltar) {
     auto* figura = controle(QStringLiteral("PicSort1"));
     const QPoint repouso(janela->tw(240), janela->tw(3000));
     EXPECT_EQ(figura->pos(), repouso);
-    QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
-                       Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)),
+                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &aperta);
     EXPECT_EQ(figura->pos(), QPoint(janela->tw(260), janela->tw(3020)));
-    QMouseEvent solta(QEvent::MouseButtonRelease, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)), Qt::LeftButton,
-                      Qt::NoButton, Qt::NoModifier);
+    QMouseEvent solta(QEvent::MouseButtonRelease, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)),
+                      Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &solta);
     EXPECT_EQ(figura->pos(), repouso);
     QMouseEvent move(QEvent::MouseMove, QPointF(4, 4), figura->mapToGlobal(QPointF(4, 4)), Qt::NoButton,
@@ -383,8 +394,8 @@ TEST_F(JanelaPrincipal, CliqueNaAreaDeTrabalhoEscondeAsMarcasDeAjuda) {
     EXPECT_TRUE(controle(QStringLiteral("HelpRotina(2)"))->isVisible());
     EXPECT_FALSE(controle(QStringLiteral("HelpRotina(3)"))->isVisible());
     auto* area = controle(QStringLiteral("PicLoteria"));
-    QMouseEvent clique(QEvent::MouseButtonPress, QPointF(5, 5), area->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                       Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent clique(QEvent::MouseButtonPress, QPointF(5, 5), area->mapToGlobal(QPointF(5, 5)),
+                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(area, &clique);
     EXPECT_FALSE(controle(QStringLiteral("HelpRotina(1)"))->isVisible());
 }

@@ -107,10 +107,14 @@ QString tecla(QWidget* controle, const QString& nome) {
         int codigo;
         const char16_t* texto;
     };
-    static const Tecla teclas[] = {{u"Enter", Qt::Key_Return, u"\r"}, {u"Tab", Qt::Key_Tab, u"\t"},
-                                   {u"Esc", Qt::Key_Escape, u"\x1b"}, {u"Esquerda", Qt::Key_Left, u""},
-                                   {u"Direita", Qt::Key_Right, u""},  {u"Cima", Qt::Key_Up, u""},
-                                   {u"Baixo", Qt::Key_Down, u""},     {u"Apagar", Qt::Key_Delete, u"\x7f"},
+    static const Tecla teclas[] = {{u"Enter", Qt::Key_Return, u"\r"},
+                                   {u"Tab", Qt::Key_Tab, u"\t"},
+                                   {u"Esc", Qt::Key_Escape, u"\x1b"},
+                                   {u"Esquerda", Qt::Key_Left, u""},
+                                   {u"Direita", Qt::Key_Right, u""},
+                                   {u"Cima", Qt::Key_Up, u""},
+                                   {u"Baixo", Qt::Key_Down, u""},
+                                   {u"Apagar", Qt::Key_Delete, u"\x7f"},
                                    {u"Retrocesso", Qt::Key_Backspace, u"\b"}};
     for (const Tecla& t : teclas) {
         if (nome != QStringView(t.nome)) continue;

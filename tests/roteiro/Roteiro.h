@@ -51,7 +51,7 @@ struct OpcoesRoteiro {
 };
 
 class Roteiro : public QObject, public Condutor {
-  public:
+public:
     Roteiro(std::vector<LinhaCenario> linhas, Transcricao& saida, OpcoesRoteiro opcoes = {});
     ~Roteiro() override;
 
@@ -64,10 +64,10 @@ class Roteiro : public QObject, public Condutor {
     void anota(const QString& linha) override { saida_.linha(linha); }
     void cedeu() override;
 
-  protected:
+protected:
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
-  private:
+private:
     struct Armada {
         LinhaCenario linha;
         int numero = 0; // of the na_cedencia line

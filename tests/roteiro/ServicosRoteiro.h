@@ -12,7 +12,7 @@ namespace sorvelo::roteiro {
 
 // What the services need of the runner.
 class Condutor {
-  public:
+public:
     virtual ~Condutor() = default;
     // A box came up: the runner writes it down and answers from the scenario.
     virtual Resposta atendeCaixa(const QString& tipo, const QString& texto, const QList<Resposta>& botoes,
@@ -30,55 +30,55 @@ QString nomeResposta(Resposta r);
 bool respostaDoNome(const QString& nome, Resposta& r);
 
 class CaixaConduzida : public CaixaMensagem {
-  public:
+public:
     explicit CaixaConduzida(Condutor& c) : c_(c) {}
     void informacao(const QString& texto) override;
     void aviso(const QString& texto) override;
     void critico(const QString& texto) override;
     Resposta pergunta(const QString& texto, Botoes botoes, Resposta padrao) override;
 
-  private:
+private:
     Condutor& c_;
 };
 
 class DialogoConduzido : public DialogoArquivo {
-  public:
+public:
     explicit DialogoConduzido(Condutor& c) : c_(c) {}
     QString abrir(const QString& titulo, const QString& filtro) override;
     QString salvar(const QString& titulo, const QString& filtro) override;
 
-  private:
+private:
     Condutor& c_;
 };
 
 class ImpressoraConduzida : public Impressora {
-  public:
+public:
     explicit ImpressoraConduzida(Condutor& c) : c_(c) {}
     void defineFonte(const QString& nome, double tamanho) override;
     void imprime(const QString& texto) override;
     void fim() override;
 
-  private:
+private:
     Condutor& c_;
 };
 
 class AbridorConduzido : public Abridor {
-  public:
+public:
     explicit AbridorConduzido(Condutor& c) : c_(c) {}
     void abre(const QString& endereco) override;
 
-  private:
+private:
     Condutor& c_;
 };
 
 // The yield: the runner counts it (and may run a line in it), then the
 // event loop runs as in the program's own yield.
 class CedenciaConduzida : public Cedencia {
-  public:
+public:
     explicit CedenciaConduzida(Condutor& c) : c_(c) {}
     void cede() override;
 
-  private:
+private:
     Condutor& c_;
 };
 

@@ -17,7 +17,7 @@ class QWidget;
 namespace sorvelo::roteiro {
 
 class TempoVirtual : public QObject {
-  public:
+public:
     // Takes over the named timers of a form (those with an interval).
     void adota(QWidget* forma);
     // A timer started since the last look counts its interval from now.
@@ -27,10 +27,10 @@ class TempoVirtual : public QObject {
     void avanca(int64_t ms, const std::function<bool()>& entreTicks);
     int64_t agora() const { return agora_; }
 
-  protected:
+protected:
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
-  private:
+private:
     struct Relogio {
         QPointer<QTimer> timer;
         int64_t proximo = 0;

@@ -12,12 +12,12 @@ namespace sorvelo::roteiro {
 QString aspas(const QString& texto);
 
 class Transcricao {
-  public:
+public:
     explicit Transcricao(std::FILE* saida) : saida_(saida) {}
     void linha(const QString& texto);
     void descarrega() { std::fflush(saida_); }
 
-  private:
+private:
     std::FILE* saida_;
 };
 

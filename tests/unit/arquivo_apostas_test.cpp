@@ -248,7 +248,7 @@ QString nomeDourado(const Cenario& c) {
 }
 
 class ArquivoApostas : public ::testing::Test {
-  protected:
+protected:
     void SetUp() override { ASSERT_TRUE(dir.isValid()); }
     void TearDown() override { LimiteTextoArquivo = LimiteTextoArquivoPadrao; }
     QString caminho(const QString& nome) const { return dir.filePath(nome); }

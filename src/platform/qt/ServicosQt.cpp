@@ -20,7 +20,9 @@ namespace sorvelo {
 namespace {
 const QString Titulo = QStringLiteral("Sorvelo");
 
-QWidget* janelaAtiva() { return QApplication::activeWindow(); }
+QWidget* janelaAtiva() {
+    return QApplication::activeWindow();
+}
 
 void caixaSimples(QMessageBox::Icon icone, const QString& texto) {
     QMessageBox caixa(icone, Titulo, texto, QMessageBox::Ok, janelaAtiva());
@@ -29,9 +31,15 @@ void caixaSimples(QMessageBox::Icon icone, const QString& texto) {
 }
 } // namespace
 
-void CaixaMensagemQt::informacao(const QString& texto) { caixaSimples(QMessageBox::Information, texto); }
-void CaixaMensagemQt::aviso(const QString& texto) { caixaSimples(QMessageBox::Warning, texto); }
-void CaixaMensagemQt::critico(const QString& texto) { caixaSimples(QMessageBox::Critical, texto); }
+void CaixaMensagemQt::informacao(const QString& texto) {
+    caixaSimples(QMessageBox::Information, texto);
+}
+void CaixaMensagemQt::aviso(const QString& texto) {
+    caixaSimples(QMessageBox::Warning, texto);
+}
+void CaixaMensagemQt::critico(const QString& texto) {
+    caixaSimples(QMessageBox::Critical, texto);
+}
 
 Resposta CaixaMensagemQt::pergunta(const QString& texto, Botoes botoes, Resposta padrao) {
     QMessageBox::StandardButtons b = QMessageBox::Yes | QMessageBox::No;
@@ -43,9 +51,12 @@ Resposta CaixaMensagemQt::pergunta(const QString& texto, Botoes botoes, Resposta
     if (botoes == Botoes::SimNao) caixa.setEscapeButton(QMessageBox::No);
     EmModal modal;
     switch (caixa.exec()) {
-    case QMessageBox::Yes: return Resposta::Sim;
-    case QMessageBox::Cancel: return Resposta::Cancelar;
-    default: return Resposta::Nao;
+    case QMessageBox::Yes:
+        return Resposta::Sim;
+    case QMessageBox::Cancel:
+        return Resposta::Cancelar;
+    default:
+        return Resposta::Nao;
     }
 }
 
@@ -82,7 +93,9 @@ struct ImpressoraQt::Trabalho {
 };
 
 ImpressoraQt::ImpressoraQt() = default;
-ImpressoraQt::~ImpressoraQt() { delete t_; }
+ImpressoraQt::~ImpressoraQt() {
+    delete t_;
+}
 
 void ImpressoraQt::defineFonte(const QString& nome, double tamanho) {
     if (!t_) t_ = new Trabalho;
@@ -127,12 +140,14 @@ void AbridorQt::abre(const QString& endereco) {
     QDesktopServices::openUrl(url);
 }
 
-QString PastaProgramaQt::caminho() { return QCoreApplication::applicationDirPath(); }
+QString PastaProgramaQt::caminho() {
+    return QCoreApplication::applicationDirPath();
+}
 
 void instalaTraducao() {
     static QTranslator tradutor;
-    if (tradutor.load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"), QStringLiteral("_"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (tradutor.load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"),
+                      QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&tradutor);
 }
 
