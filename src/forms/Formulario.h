@@ -1,4 +1,4 @@
-// The base of the program's dialogs: named as in the description, with its
+// The base of the program's dialogs: each with its form's name and
 // caption, Enter moving the focus, modal or not. A dialog is made anew at
 // each opening, so its controls start from their defaults each time.
 #pragma once
