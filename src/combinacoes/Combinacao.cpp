@@ -79,13 +79,9 @@ void Combinacoes::BtnIniciar() {
 }
 
 Int16 DezenasDoFechamento(const QString& texto) {
-    Int16 d = Int16::de(valorNumerico(texto));
-    if (texto == QStringLiteral("Duque")) d = 2;
-    if (texto == QStringLiteral("Terno")) d = 3;
-    if (texto == QStringLiteral("Quadra")) d = 4;
-    if (texto == QStringLiteral("Quina")) d = 5;
-    if (texto == QStringLiteral("Sena")) d = 6;
-    return d;
+    const Int16 d = Int16::de(valorNumerico(texto));
+    const int palavra = numeroDaPalavra(texto);
+    return palavra ? Int16(int16_t(palavra)) : d;
 }
 
 namespace {

@@ -62,39 +62,39 @@ void DesmarcaMenus(Programa& p) {
     t.MenuMegaSena = t.MenuDuplaSena = t.MenuQuina = t.MenuLotomania = t.MenuLotoFacil = false;
 }
 
-namespace {
 const QStringList& palavrasGarantia() {
     static const QStringList palavras = {QStringLiteral("Duque"), QStringLiteral("Terno"),
                                          QStringLiteral("Quadra"), QStringLiteral("Quina"),
                                          QStringLiteral("Sena")};
     return palavras;
 }
-} // namespace
+
+int numeroDaPalavra(const QString& texto) {
+    const qsizetype k = palavrasGarantia().indexOf(texto);
+    return k >= 0 ? int(k) + 2 : 0;
+}
 
 int valorGarantia(const QString& texto) {
-    const qsizetype k = palavrasGarantia().indexOf(texto);
-    if (k >= 0) return int(k) + 2;
+    if (const int n = numeroDaPalavra(texto)) return n;
     const double v = valorNumerico(texto);
     return v >= 7 ? int(v) : 0;
 }
 
-void DerivaAcertar(Programa& p) {
+namespace {
+// CmbAcertar follows CmbGarantia: a word gives its number; a figure from 7
+// up is copied when `copiaFigura` allows.
+void acertarDaGarantia(Programa& p, bool copiaFigura) {
     const QString& g = p.tela.CmbGarantia.Text;
-    const qsizetype k = palavrasGarantia().indexOf(g);
-    if (k >= 0)
-        p.tela.CmbAcertar.Text = QString::number(k + 2);
-    else if (valorNumerico(g) >= 7)
+    if (const int n = numeroDaPalavra(g))
+        p.tela.CmbAcertar.Text = QString::number(n);
+    else if (copiaFigura && valorNumerico(g) >= 7)
         p.tela.CmbAcertar.Text = g;
 }
+} // namespace
 
-void CliqueGarantia(Programa& p) {
-    const QString& g = p.tela.CmbGarantia.Text;
-    const qsizetype k = palavrasGarantia().indexOf(g);
-    if (k >= 0)
-        p.tela.CmbAcertar.Text = QString::number(k + 2);
-    else if (!p.tela.ChkReduzir.Value && valorNumerico(g) >= 7)
-        p.tela.CmbAcertar.Text = g;
-}
+void DerivaAcertar(Programa& p) { acertarDaGarantia(p, true); }
+
+void CliqueGarantia(Programa& p) { acertarDaGarantia(p, !p.tela.ChkReduzir.Value); }
 
 void ConfiguraLoteria(Programa& p, const QString& Nome) {
     auto& e = p.e;

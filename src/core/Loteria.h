@@ -30,6 +30,10 @@ void DesmarcaMenus(Programa& p);
 // The number a guarantee word stands for: "Duque" 2 ... "Sena" 6, or the
 // text's own value when it reads 7 or more; 0 otherwise.
 int valorGarantia(const QString& texto);
+// The guarantee words in the order of the lists: "Duque" ... "Sena".
+const QStringList& palavrasGarantia();
+// The number a guarantee word stands for, 2 to 6; 0 for any other text.
+int numeroDaPalavra(const QString& texto);
 // CmbAcertar derived from CmbGarantia's text.
 void DerivaAcertar(Programa& p);
 // A click in CmbGarantia's list: CmbAcertar follows the guarantee (a figure

@@ -45,8 +45,7 @@ void poeCombo(QComboBox* w, const Combo& c) {
     w->setEnabled(c.Enabled);
 }
 QStringList itensGarantia(int ate) {
-    QStringList l = {QStringLiteral("Duque"), QStringLiteral("Terno"), QStringLiteral("Quadra"),
-                     QStringLiteral("Quina"), QStringLiteral("Sena")};
+    QStringList l = palavrasGarantia();
     for (int i = 7; i <= ate; ++i)
         l << QString::number(i);
     return l;
@@ -346,17 +345,16 @@ void Sorvelo::montaQuadrosCombinacao() {
 
     liga(txtDezAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp.Text = t; });
     liga(txtDezAp2_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp2.Text = t; });
-    liga(spbDezAp_, &BotaoGiro::valueChanged, [this](int v) {
-        // Failures of the spin buttons are skipped.
-        p_.tela.SpbDezAp.Value = v;
-        MudaSpin(p_.tela.SpbDezAp, p_.tela.TxtDezAp);
-        txtDezAp_->setFocus();
-    });
-    liga(spbDezAp2_, &BotaoGiro::valueChanged, [this](int v) {
-        p_.tela.SpbDezAp2.Value = v;
-        MudaSpin(p_.tela.SpbDezAp2, p_.tela.TxtDezAp2);
-        txtDezAp2_->setFocus();
-    });
+    // A spin button writes its value into its text box and gives it the focus.
+    auto giro = [this](BotaoGiro* botao, Spin& spin, CampoTexto& campo, QLineEdit* caixa) {
+        liga(botao, &BotaoGiro::valueChanged, [this, &spin, &campo, caixa](int v) {
+            spin.Value = v;
+            MudaSpin(spin, campo);
+            caixa->setFocus();
+        });
+    };
+    giro(spbDezAp_, p_.tela.SpbDezAp, p_.tela.TxtDezAp, txtDezAp_);
+    giro(spbDezAp2_, p_.tela.SpbDezAp2, p_.tela.TxtDezAp2, txtDezAp2_);
     liga(cmbGarantia_, &QComboBox::editTextChanged,
          [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
     liga(cmbGarantia_, &QComboBox::activated, [this](int) {
@@ -475,7 +473,10 @@ void Sorvelo::sincroniza() {
     for (size_t k = 0; k < helpRotina_.size(); ++k)
         helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
     picSort1_->move(tw(t.PicSort1Left), tw(t.PicSort1Top));
-    picSort1_->setPixmap(desenhaDados(t.PicSort1Imagem, tw(375)));
+    if (imagemSort1_ != t.PicSort1Imagem) {
+        imagemSort1_ = t.PicSort1Imagem;
+        picSort1_->setPixmap(desenhaDados(imagemSort1_, tw(375)));
+    }
     if (barraVert_->value() != t.BarraVert.Value) barraVert_->setValue(t.BarraVert.Value);
     if (barraHoriz_->value() != t.BarraHoriz.Value) barraHoriz_->setValue(t.BarraHoriz.Value);
     sincronizando_ = false;

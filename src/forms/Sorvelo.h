@@ -106,6 +106,7 @@ private:
     QTimer* timer1_ = nullptr;
     std::unique_ptr<ConfApostas> conf_;
     QPointer<JanelaConfApostas> janelaConf_;
+    int imagemSort1_ = 0; // the picture PicSort1 shows now
     bool sincronizando_ = false;
     bool fechado_ = false;
 };
