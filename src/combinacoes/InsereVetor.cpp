@@ -1,5 +1,7 @@
 #include "InsereVetor.h"
 
+#include "../core/Loteria.h"
+
 #include "../core/BancoApostas.h"
 #include "Estatistica.h"
 
@@ -36,11 +38,9 @@ void acrescentaCodigo(QString& texto, uint8_t c) {
 } // namespace
 
 Int16 TamanhoJogoDe(const QString& nomeLoteria) {
-    if (nomeLoteria == QStringLiteral("MEGA-SENA") || nomeLoteria == QStringLiteral("DUPLA SENA")) return 6;
-    if (nomeLoteria == QStringLiteral("QUINA")) return 5;
-    if (nomeLoteria == QStringLiteral("LOTOMANIA")) return 50;
-    if (nomeLoteria == QStringLiteral("LOTOFÁCIL")) return 15;
-    return 0;
+    // A full bet has as many numbers as the game's default per bet.
+    const Jogo* j = jogoPorNome(nomeLoteria);
+    return j && j->nomeMaiusculo == nomeLoteria ? Int16(int16_t(j->spin)) : Int16(0);
 }
 
 InsereVetor::InsereVetor(Programa& p) : p_(p) {

@@ -9,15 +9,18 @@ namespace sorvelo {
 const std::array<Jogo, 5>& jogos() {
     static const std::array<Jogo, 5> tabela{{
         {QStringLiteral("Mega-Sena"), QStringLiteral("MEGA-SENA"), 1, 60, 6, QStringLiteral("06"), 6,
-         QStringLiteral("4,50"), QStringLiteral("Quina"), QStringLiteral("Quina"), true, 6},
+         QStringLiteral("4,50"), QStringLiteral("Quina"), QStringLiteral("Quina"), true, 6,
+         QStringLiteral("4")},
         {QStringLiteral("Dupla Sena"), QStringLiteral("DUPLA SENA"), 1, 50, 6, QStringLiteral("06"), 6,
-         QStringLiteral("2,50"), QStringLiteral("Quina"), QStringLiteral("Quina"), true, 5},
+         QStringLiteral("2,50"), QStringLiteral("Quina"), QStringLiteral("Quina"), true, 5,
+         QStringLiteral("4")},
         {QStringLiteral("Quina"), QStringLiteral("QUINA"), 1, 80, 5, QStringLiteral("05"), 5,
-         QStringLiteral("2,00"), QStringLiteral("Quadra"), QStringLiteral("Quadra"), true, 8},
+         QStringLiteral("2,00"), QStringLiteral("Quadra"), QStringLiteral("Quadra"), true, 8,
+         QStringLiteral("3")},
         {QStringLiteral("Lotomania"), QStringLiteral("LOTOMANIA"), 0, 99, 20, QStringLiteral("50"), 50,
-         QStringLiteral("2,50"), QString(), QString(), false, 10},
+         QStringLiteral("2,50"), QString(), QString(), false, 10, QStringLiteral("0")},
         {QStringLiteral("Lotofácil"), QStringLiteral("LOTOFÁCIL"), 1, 25, 15, QStringLiteral("15"), 15,
-         QStringLiteral("2,50"), QStringLiteral("7"), QStringLiteral("13"), true, 0},
+         QStringLiteral("2,50"), QStringLiteral("7"), QStringLiteral("13"), true, 0, QStringLiteral("11")},
     }};
     return tabela;
 }
@@ -92,9 +95,13 @@ void acertarDaGarantia(Programa& p, bool copiaFigura) {
 }
 } // namespace
 
-void DerivaAcertar(Programa& p) { acertarDaGarantia(p, true); }
+void DerivaAcertar(Programa& p) {
+    acertarDaGarantia(p, true);
+}
 
-void CliqueGarantia(Programa& p) { acertarDaGarantia(p, !p.tela.ChkReduzir.Value); }
+void CliqueGarantia(Programa& p) {
+    acertarDaGarantia(p, !p.tela.ChkReduzir.Value);
+}
 
 void ConfiguraLoteria(Programa& p, const QString& Nome) {
     auto& e = p.e;

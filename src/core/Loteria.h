@@ -9,13 +9,14 @@ struct Jogo {
     QString nome; // as the menu gives it
     QString nomeMaiusculo;
     int numIni, numFim, dezMin;
-    QString dezAposta; // TxtDezAp, TxtDezAp2
-    int spin;          // SpbDezAp, SpbDezAp2
-    QString valor;     // TxtValAp
-    QString fecha;     // CmbFecha ("" for Lotomania: left as it was)
-    QString garantia;  // CmbGarantia ("" for Lotomania)
-    bool fechamento;   // BtnFechar, CmbFecha, CmbGarantia enabled
-    int linhasCartela; // 0: none
+    QString dezAposta;         // TxtDezAp, TxtDezAp2
+    int spin;                  // SpbDezAp, SpbDezAp2
+    QString valor;             // TxtValAp
+    QString fecha;             // CmbFecha ("" for Lotomania: left as it was)
+    QString garantia;          // CmbGarantia ("" for Lotomania)
+    bool fechamento;           // BtnFechar, CmbFecha, CmbGarantia enabled
+    int linhasCartela;         // 0: none
+    QString pontosConferencia; // threshold of the verification window
 };
 
 const std::array<Jogo, 5>& jogos();

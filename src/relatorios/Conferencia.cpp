@@ -2,6 +2,7 @@
 
 #include "../core/BancoApostas.h"
 #include "../core/Grade.h"
+#include "../core/Loteria.h"
 #include "Pontuacao.h"
 #include "PontuacaoRapida.h"
 
@@ -24,12 +25,8 @@ void InsereRTF(const Programa& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos)
 }
 
 QString pontosPadrao(const QString& NomeLoteria) {
-    if (NomeLoteria == QStringLiteral("MEGA-SENA")) return QStringLiteral("4");
-    if (NomeLoteria == QStringLiteral("DUPLA SENA")) return QStringLiteral("4");
-    if (NomeLoteria == QStringLiteral("QUINA")) return QStringLiteral("3");
-    if (NomeLoteria == QStringLiteral("LOTOMANIA")) return QStringLiteral("0");
-    if (NomeLoteria == QStringLiteral("LOTOFÁCIL")) return QStringLiteral("11");
-    return QString();
+    const Jogo* j = jogoPorNome(NomeLoteria);
+    return j && j->nomeMaiusculo == NomeLoteria ? j->pontosConferencia : QString();
 }
 
 void ConfApostas::Carrega() {
