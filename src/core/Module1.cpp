@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cmath>
 
 namespace sorvelo {
@@ -88,6 +89,19 @@ QString FormataNumero(QString& Texto) {
 
 QString TextoInteiro(double Valor) {
     return apara(textoNumero(std::trunc(Valor)));
+}
+
+QByteArray InverteBytes(QByteArray s, const std::function<void()>& cede) {
+    constexpr qsizetype Passo = 100;
+    char* dados = s.data();
+    const qsizetype n = s.size();
+    for (qsizetype inicio = 0; inicio < n; inicio += Passo) {
+        const qsizetype fim = std::min(n, inicio + Passo);
+        for (qsizetype i = inicio; i < fim; ++i)
+            dados[i] = char(255 - uint8_t(dados[i]));
+        if (fim - inicio == Passo && cede) cede();
+    }
+    return s;
 }
 
 void ApagaArquivo(const QString& Nome) {

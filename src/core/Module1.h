@@ -1,8 +1,11 @@
 // Small shared routines: the Brazilian form of a number, the integer part as
-// text, deleting a file.
+// text, deleting a file, the complement of a data file's bytes.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+
+#include <functional>
 
 namespace sorvelo {
 
@@ -20,6 +23,12 @@ QString TextoInteiro(double Valor);
 
 // Deletes the file; every failure, a missing file too, is skipped.
 void ApagaArquivo(const QString& Nome);
+
+// Every byte replaced by its complement (255 minus the byte), from the first
+// to the last; after each 100th byte, `cede` is called (the yield to the
+// message loop). The routine is its own inverse: it reads and writes the
+// super-reduction tables alike. The text is one byte a character.
+QByteArray InverteBytes(QByteArray s, const std::function<void()>& cede = {});
 
 // The original's Trim: blanks (spaces) only.
 QString apara(const QString& s);

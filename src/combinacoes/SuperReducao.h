@@ -1,0 +1,70 @@
+// The dialog "Combinações super reduzidas" as logic: it reads the game's
+// table from the program's folder, finds the block of the chosen count, the
+// number to hit and the guarantee, maps its positions onto the marked numbers
+// and rewrites the bank with the block's bets. The whole runs when the dialog
+// comes to the front; the form shows LblMensagem and LblCont and forwards
+// its cancel button.
+#pragma once
+
+#include "../core/Estado.h"
+#include "LeituraSuper.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <functional>
+
+namespace sorvelo {
+
+class SuperReducao {
+public:
+    // The parameters of the reduced combination's frame that the program's
+    // state does not hold: the numbers per bet and the number to hit.
+    SuperReducao(Programa& p, Int16 DezFinal, Int16 QuantAcertar);
+
+    // Coming to the front: the whole run, once.
+    void ativa();
+    // "Cancelar": Cancelado and the close of the dialog; the run goes on to
+    // its end all the same.
+    void BtnCancelar();
+    bool aberto() const { return aberto_; }
+
+    void ExecutaSuperReducao();
+    // The block's rows (VetRes) mapped onto the marked numbers (VetDezenas)
+    // as bets appended to VetBan.
+    void MapeiaBloco();
+    void InsereJogosSuper();
+    // The text of row `linha` of VetBan; with fixed numbers the row is
+    // rewritten sorted with them.
+    QString RetAposta(Int32 linha);
+
+    // Controls.
+    static inline const QString Caption = QStringLiteral("Combinações super reduzidas");
+    static inline const QString SemSuperReducoes =
+        QStringLiteral("Não há super-reduções para os parâmetros informados!");
+    QString LblMensagem = QStringLiteral("Efetuando reduções, aguarde...");
+    QString LblCont, LblTotal;
+    // Told when LblMensagem changes, when LblCont changes (every 13 bets),
+    // and when the dialog closes.
+    std::function<void()> aoMudarMensagem;
+    std::function<void(const QString&)> aoContar;
+    std::function<void()> aoFechar;
+
+    // Fields of the dialog.
+    QByteArray TextoSuper;
+    Int32 PosSuper;
+    Int16 QuantSuper;
+    Int16 DezFinal, QuantAcertar;
+
+private:
+    void fecha();
+    void semSuperReducao();
+    void adicionaLista(const QString& item);
+
+    Programa& p_;
+    QStringList LstSort; // sorted as text, as the hidden list box
+    bool aberto_ = true;
+    bool iniciado_ = false;
+};
+
+} // namespace sorvelo
