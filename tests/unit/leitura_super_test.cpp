@@ -221,6 +221,14 @@ TEST(LeBlocoSuper, MaisDeDezMilEUmaLinhasFalham) {
     EXPECT_EQ(Leitura(textoBloco(Chave, cheias, FimBloco::AposUltimaCelula), Chave).falha, 0);
 }
 
+TEST(LeBlocoSuper, UmMilhaoDeLinhasParaNaFalhaSemLerTudo) {
+    const QList<QByteArray> linhas(1000000, QByteArrayLiteral("01 02 03 04 05 06"));
+    const QByteArray texto = textoBloco(Chave, linhas);
+    const Leitura l(texto, Chave);
+    EXPECT_EQ(l.falha, erro::SubscritoForaIntervalo);
+    EXPECT_LT(l.PosSuper.valor(), 200000) << "a leitura para na linha que não cabe";
+}
+
 TEST(LeBlocoSuper, OitentaEUmaCelulasCabemOitentaEDuasFalham) {
     const Leitura cabe(textoBloco(Chave, {linhaDePosicoes(81)}), Chave);
     EXPECT_EQ(cabe.falha, 0);
