@@ -35,6 +35,10 @@ struct Estado {
     bool ComEstatistica = false;
     bool ModoFechamento = false;
     bool ModoReduzido = false;
+    // The reduced combination: numbers per final bet, how many must hit, and
+    // the guard against a second start of its insertion.
+    Int16 DezFinal, QuantAcertar;
+    bool EmReducao = false;
     Vetor<QString> VetDezenas{0, 81};
     Vetor<QString> VetDezenas2{0, 80};
     Int16 TopicoHelp;

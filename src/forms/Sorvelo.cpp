@@ -1,6 +1,7 @@
 #include "Sorvelo.h"
 
 #include "Combinacoes.h"
+#include "CombinacoesReduz.h"
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
@@ -330,6 +331,7 @@ void Sorvelo::montaQuadrosCombinacao() {
     auto* reduz = poe(new QPushButton(QStringLiteral("Iniciar Combinação reduzida")), frame5_, "BtnReduz",
                       2760, 270, 2655, 435);
     reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
+    liga(reduz, &QPushButton::clicked, [this] { BtnReduz(p_, janelasReducao(this)); });
     rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
     cmbGarantia_ = poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
     cmbGarantia_->setEditable(true);
@@ -362,10 +364,7 @@ void Sorvelo::montaQuadrosCombinacao() {
         CliqueGarantia(p_);
     });
     liga(cmbAcertar_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbAcertar.Text = t; });
-    liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) {
-        p_.tela.ChkReduzir.Value = v;
-        p_.tela.CmbAcertar.Enabled = v;
-    });
+    liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) { CliqueReduzir(p_, v); });
     for (QWidget* q : {static_cast<QWidget*>(frame2_), static_cast<QWidget*>(frame5_)}) {
         q->setMouseTracking(true);
         q->installEventFilter(this);

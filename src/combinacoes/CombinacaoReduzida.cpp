@@ -1,0 +1,109 @@
+#include "CombinacaoReduzida.h"
+
+#include "../core/BancoApostas.h"
+#include "../core/Grade.h"
+#include "../core/Loteria.h"
+#include "../relatorios/Pontuacao.h"
+
+namespace sorvelo {
+
+namespace {
+const QString CRLF = QStringLiteral("\r\n");
+}
+
+CombinacoesReduz::CombinacoesReduz(Programa& p) : p_(p) {
+    const auto& e = p.e;
+    LblDezComb = formata00(e.QuantEscolhidos.valor());
+    LblDezApo = formata00(e.DezFinal.valor());
+    LblGarantia = p.tela.CmbGarantia.Text + u' ';
+    LblAcertar = p.tela.CmbAcertar.Text;
+}
+
+void CombinacoesReduz::mensagem(const QString& texto) {
+    LblMensagem = texto;
+    if (aoMudarMensagem) aoMudarMensagem();
+}
+
+void CombinacoesReduz::fecha() {
+    const bool estava = aberto_;
+    aberto_ = false;
+    if (estava && aoFechar) aoFechar();
+}
+
+void CombinacoesReduz::BtnCancelar() {
+    p_.e.Cancelado = true;
+    fecha();
+}
+
+void CombinacoesReduz::BtnIniciar() {
+    auto& e = p_.e;
+    e.Historico += p_.agoraTexto() + QStringLiteral(": Garantia de no mínimo ") + LblGarantia +
+                   QStringLiteral(" se acertar ") + LblAcertar +
+                   QStringLiteral(" números dentro das dezenas escolhidas.") + CRLF;
+    CarregaNumeros(p_);
+    IniciaProgresso(p_, e.TotalApostas);
+    mensagem(QStringLiteral("Efetuando combinações..."));
+    p_.s.cedencia->cede();
+    if (CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
+        mensagem(QString());
+        fecha();
+    } else {
+        e.Cancelado = true;
+        fecha();
+    }
+}
+
+Int16 DezenasDaGarantia(const QString& texto) {
+    const Int16 d = Int16::de(valorNumerico(texto));
+    const int palavra = numeroDaPalavra(texto);
+    return palavra ? Int16(int16_t(palavra)) : d;
+}
+
+void CliqueReduzir(Programa& p, bool marcado) {
+    p.tela.ChkReduzir.Value = marcado;
+    p.tela.CmbAcertar.Enabled = marcado;
+}
+
+bool PreparaReducao(Programa& p) {
+    auto& e = p.e;
+    auto& t = p.tela;
+    // The bank is emptied before any check; a Cancel of its save question
+    // leaves the old bets, which then go into the packing as they are.
+    LimpaBancoApostas(p);
+    CarregaNumeros(p);
+    e.Cancelado = false;
+    e.EmReducao = false;
+    if (valorNumerico(t.TxtEscolhidos.Text) == 0) {
+        p.s.caixa->informacao(QStringLiteral("Favor selecionar os números a combinar"));
+        return false;
+    }
+    CarregaVetDezEsc(p);
+    e.DezAposta = DezenasDaGarantia(t.CmbGarantia.Text);
+    e.QuantEscolhidos = Int16::de(valorNumerico(t.TxtEscolhidos.Text));
+    e.DezFinal = Int16::de(valorNumerico(t.TxtDezAp2.Text));
+    e.QuantAcertar = Int16::de(valorNumerico(t.CmbAcertar.Text));
+    if (t.ChkReduzir.Value && e.DezAposta > e.QuantAcertar) {
+        p.s.caixa->critico(QStringLiteral("A garantia deve ser menor ou igual à quant. a acertar!"));
+        return false;
+    }
+    if (e.DezAposta >= e.QuantEscolhidos) {
+        p.s.caixa->critico(QStringLiteral("Não é possível fazer redução com os parâmetros informados!"));
+        return false;
+    }
+    e.TotalApostas = ArredondaApostas(RetQuantCombinacoes(e.QuantEscolhidos, e.DezAposta));
+    e.ValorAposta = valorNumerico(RetValorNumerico(t.TxtValAp.Text, false));
+    e.Historico += p.agoraTexto() + QStringLiteral(": Combinação reduzida") + CRLF;
+    return true;
+}
+
+void BtnReduz(Programa& p, const JanelasReducao& janelas) {
+    if (!PreparaReducao(p)) return;
+    if (p.tela.ChkReduzir.Value) {
+        if (janelas.mostraCombSuperReduz) janelas.mostraCombSuperReduz(p);
+        return;
+    }
+    janelas.mostraCombinacoesReduz(p);
+    if (!p.e.Cancelado) janelas.mostraInsereVetorReduz(p);
+}
+
+} // namespace sorvelo
