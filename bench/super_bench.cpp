@@ -121,7 +121,9 @@ int main(int argc, char** argv) {
         CarregaVetDezEsc(p);
         p.e.DezAposta = 4;
         p.e.QuantEscolhidos = 30;
-        SuperReducao dlg(p, 6, 4);
+        p.e.DezFinal = 6;
+        p.e.QuantAcertar = 4;
+        SuperReducao dlg(p);
         const auto t = Cronometro::now();
         dlg.ativa();
         inteira.tempos.push_back(ms(t));

@@ -9,8 +9,7 @@
 
 namespace sorvelo {
 
-SuperReducao::SuperReducao(Programa& p, Int16 dezFinal, Int16 quantAcertar)
-    : DezFinal(dezFinal), QuantAcertar(quantAcertar), p_(p) {}
+SuperReducao::SuperReducao(Programa& p) : p_(p) {}
 
 void SuperReducao::ativa() {
     // The run closes the dialog at its end; it is never started twice, even
@@ -51,9 +50,9 @@ void SuperReducao::ExecutaSuperReducao() {
     e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor());
 
     std::optional<Int32> posicao;
-    if (DezFinal == tabela->DezFinal)
-        posicao =
-            PosicaoBlocoSuper(TextoSuper, ChaveSuper(*tabela, e.QuantEscolhidos, QuantAcertar, e.DezAposta));
+    if (e.DezFinal == tabela->DezFinal)
+        posicao = PosicaoBlocoSuper(TextoSuper,
+                                    ChaveSuper(*tabela, e.QuantEscolhidos, e.QuantAcertar, e.DezAposta));
     if (!posicao) {
         semSuperReducao();
         return;

@@ -18,9 +18,10 @@ namespace sorvelo {
 
 class SuperReducao {
 public:
-    // The parameters of the reduced combination's frame that the program's
-    // state does not hold: the numbers per bet and the number to hit.
-    SuperReducao(Programa& p, Int16 DezFinal, Int16 QuantAcertar);
+    // The dialog's load. It takes from the reduced combination flow
+    // QuantEscolhidos, QuantAcertar, DezAposta (the guarantee), DezFinal,
+    // VetDezenas, VetFixos, DezEscolhidas and Historico.
+    explicit SuperReducao(Programa& p);
 
     // Coming to the front: the whole run, once.
     void ativa();
@@ -54,7 +55,6 @@ public:
     QByteArray TextoSuper;
     Int32 PosSuper;
     Int16 QuantSuper;
-    Int16 DezFinal, QuantAcertar;
 
 private:
     void fecha();

@@ -61,7 +61,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dados, size_t tamanho) {
     CarregaVetDezEsc(p);
     p.e.DezAposta = 4;
     p.e.QuantEscolhidos = Int16::de(int64_t(quantMarcadas));
-    SuperReducao dlg(p, 6, 4);
+    p.e.DezFinal = 6;
+    p.e.QuantAcertar = 4;
+    SuperReducao dlg(p);
     try {
         dlg.ativa();
     } catch (const FalhaExecucao&) {

@@ -94,7 +94,9 @@ struct BancadaSuper : Bancada {
     // The dialog run as it comes to the front, after the flow's hand-over.
     void executa(int garantia, int acertar, int dezFinal, SuperReducao** dialogo = nullptr) {
         preparaFluxo(garantia);
-        SuperReducao dlg(p, Int16::de(int64_t(dezFinal)), Int16::de(int64_t(acertar)));
+        p.e.DezFinal = Int16::de(int64_t(dezFinal));
+        p.e.QuantAcertar = Int16::de(int64_t(acertar));
+        SuperReducao dlg(p);
         dlg.aoFechar = [this] { ++fechamentos; };
         dlg.aoContar = [this](const QString& t) { contagens << t; };
         if (dialogo) *dialogo = &dlg;

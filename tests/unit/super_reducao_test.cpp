@@ -172,7 +172,9 @@ TEST(SuperReducao, OBancoEhReescritoComCabecalhoLinhasColoridasEFim) {
     m.preparaFluxo(4);
     // Whatever stood in the bank's text goes.
     m.p.tela.TxtBanco.acrescenta(QStringLiteral("sobra\r\n"), CorAposta);
-    SuperReducao dlg(m.p, 6, 4);
+    m.p.e.DezFinal = 6;
+    m.p.e.QuantAcertar = 4;
+    SuperReducao dlg(m.p);
     dlg.ativa();
     const DocumentoRico& t = m.p.tela.TxtBanco;
     const QString esperado =
@@ -298,7 +300,7 @@ TEST(SuperReducao, OsContadoresDaReducaoFicamComoEstavam) {
 
 TEST(SuperReducao, ComecaComAMensagemDeEspera) {
     BancadaSuper b;
-    SuperReducao dlg(b.p, 6, 4);
+    SuperReducao dlg(b.p);
     EXPECT_EQ(SuperReducao::Caption, QStringLiteral("Combinações super reduzidas"));
     EXPECT_EQ(dlg.LblMensagem, QStringLiteral("Efetuando reduções, aguarde..."));
     EXPECT_EQ(dlg.LblCont, QString());
@@ -309,7 +311,9 @@ TEST(SuperReducao, ComecaComAMensagemDeEspera) {
 TEST(SuperReducao, CorreUmaVezSo) {
     Mega m(textoBloco(Chave, {"01 02 03 04 05 08"}));
     m.preparaFluxo(4);
-    SuperReducao dlg(m.p, 6, 4);
+    m.p.e.DezFinal = 6;
+    m.p.e.QuantAcertar = 4;
+    SuperReducao dlg(m.p);
     dlg.ativa();
     dlg.ativa();
     EXPECT_EQ(m.p.e.QuantBan, 1);
