@@ -1,5 +1,6 @@
 #include "CombinacoesReduz.h"
 
+#include "CombSuperReduz.h"
 #include "Sorvelo.h"
 
 #include <QCloseEvent>
@@ -118,10 +119,10 @@ JanelasReducao janelasReducao(QWidget* pai) {
         JanelaInsereVetorReduz janela(p, pai);
         janela.mostraModal();
     };
-    // Until the super-reduction's dialog exists, its show tells that there
-    // is none for these parameters, and closes.
-    j.mostraCombSuperReduz = [](Programa& p) {
-        p.s.caixa->informacao(QStringLiteral("Não há super-reduções para os parâmetros informados!"));
+    j.mostraCombSuperReduz = [pai, mostraPrincipal](Programa& p) {
+        mostraPrincipal();
+        JanelaCombSuperReduz janela(p, pai);
+        janela.mostraModal();
     };
     return j;
 }

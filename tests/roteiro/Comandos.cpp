@@ -2,11 +2,14 @@
 #include "Acoes.h"
 #include "Observacao.h"
 #include "Roteiro.h"
+#include "core/Cp1252.h"
 #include "core/Estado.h"
 #include "forms/Sorvelo.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QMenu>
 #include <QWidget>
 
@@ -30,6 +33,7 @@ const Uso usos[] = {
     {"responde", "responde Sim|Não|Cancelar|OK"},
     {"relogio", "relogio \"22/11/2026\" \"14:05:09\""},
     {"pasta", "pasta \"caminho\""},
+    {"tabela", "tabela \"Arquivo.sv\" \"texto\""},
     {"espera", "espera MS"},
     {"estado", "estado C"},
     {"confere", "confere C \"texto\""},
@@ -150,6 +154,8 @@ void Roteiro::executaLinha(const LinhaCenario& l) {
         cmdConfere(l);
     else if (c == QStringLiteral("fecha"))
         cmdFecha(l);
+    else if (c == QStringLiteral("tabela"))
+        cmdTabela(l);
     else if (c == QStringLiteral("responde"))
         erro(l.numero, QStringLiteral("nenhuma caixa de mensagem na tela"));
     else if (c == QStringLiteral("pasta"))
@@ -238,6 +244,17 @@ bool Roteiro::cmdPasta(const LinhaCenario& l) {
     }
     servicos_.pasta.define(l.palavras[1].texto);
     return true;
+}
+
+void Roteiro::cmdTabela(const LinhaCenario& l) {
+    if (!confereForma(l, "ptt")) return;
+    const QString nome = QDir(servicos_.pasta.caminho()).filePath(l.palavras[1].texto);
+    QByteArray bytes = cp1252::codifica(l.palavras[2].texto);
+    for (char& b : bytes)
+        b = char(255 - static_cast<unsigned char>(b));
+    QFile f(nome);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(bytes) != bytes.size())
+        erro(l.numero, QStringLiteral("tabela não grava %1").arg(nome));
 }
 
 void Roteiro::cmdEspera(const LinhaCenario& l) {

@@ -109,6 +109,9 @@ private:
     void cmdConfere(const LinhaCenario& l);
     void cmdFecha(const LinhaCenario& l);
     bool cmdPasta(const LinhaCenario& l);
+    // Writes a super-reduction table (its bytes complemented) into the
+    // program's folder.
+    void cmdTabela(const LinhaCenario& l);
 
     // Checks the words of a line: 'p' a plain word, 't' a quoted text.
     bool confereForma(const LinhaCenario& l, const char* forma);

@@ -38,6 +38,8 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
                                (antes do primeiro `relogio`: 22/11/2026 14:05:09)
   pasta "caminho"              a pasta do programa, antes de todas as outras linhas
                                (sem ela, uma pasta temporária vazia)
+  tabela "Arquivo.sv" "texto"  grava o texto na pasta do programa com cada byte complementado,
+                               como o programa guarda as tabelas de super-redução
   espera MS                    o tempo corre MS milissegundos para os temporizadores
   mostra C                     o texto de um controle ou de uma variável compartilhada
                                (QuantBan, Historico, VetBan, VetDezenas(3), ...); Foco dá o

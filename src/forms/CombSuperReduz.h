@@ -1,0 +1,27 @@
+// The dialog "Combinações super reduzidas": it looks the reduced
+// combination up in the game's table and rewrites the bank with it, as soon
+// as it comes to the front. "Cancelar" closes it; the work goes on behind.
+#pragma once
+
+#include "Formulario.h"
+#include "combinacoes/SuperReducao.h"
+
+namespace sorvelo {
+
+class JanelaCombSuperReduz : public Formulario {
+    Q_OBJECT
+public:
+    explicit JanelaCombSuperReduz(Programa& p, QWidget* pai = nullptr);
+    void sincroniza() override;
+
+protected:
+    void showEvent(QShowEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    SuperReducao s_;
+    QLabel *lblMensagem_, *lblCont_, *lblTotal_;
+    bool agendado_ = false;
+};
+
+} // namespace sorvelo
