@@ -451,9 +451,12 @@ TEST(FluxoReducao, GarantiaNegativaTerminaEmFalhaDeSubscrito) {
 }
 
 TEST(FluxoReducao, LotomaniaComDezFinalAcimaDe81TerminaEmFalha) {
-    Bancada b(QStringLiteral("Lotomania"));
+    // Lotomania's list is disabled and keeps the guarantee of the game before.
+    Bancada b;
+    garantiaDe(b, QStringLiteral("Duque"));
+    TrocaLoteria(b.p, QStringLiteral("Lotomania"));
+    EXPECT_FALSE(b.p.tela.CmbGarantia.Enabled);
     b.marcaFaixa(0, 94);
-    b.p.tela.CmbGarantia.Text = QStringLiteral("2");
     b.p.tela.TxtDezAp2.Text = QStringLiteral("90");
     RoteiroReducao r;
     EXPECT_THROW(BtnReduz(b.p, janelas(r)), FalhaExecucao);
