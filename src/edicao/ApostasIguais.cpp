@@ -3,6 +3,8 @@
 #include "core/Semantica.h"
 
 #include <algorithm>
+#include <array>
+#include <memory>
 #include <new>
 
 namespace sorvelo {
@@ -30,30 +32,54 @@ ApostasIguais::ApostasIguais(const MatrizTexto& vetAux, int64_t quant)
         size_t tamanho = 1024;
         while (tamanho < size_t(quant) * 2)
             tamanho *= 2;
-        chaves_.assign(tamanho, 0);
-        valores_.assign(tamanho, 0);
+        tabela_.assign(tamanho, Entrada{});
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
     // Consecutive rows often share a beginning (a combination comes in
-    // order): the path of the previous row is reused as far as it agrees.
-    Token anterior[MaxColunas], atual[MaxColunas];
-    uint32_t caminho[MaxColunas + 1];
-    caminho[0] = 0;
-    int quantAnterior = 0;
+    // order): the paths of the last two rows are kept, and the row takes
+    // from the one that agrees with it longer as far as it agrees (the
+    // second covers a row that breaks a run of ordered rows).
+    struct Caminho {
+        Token tokens[MaxColunas];
+        uint32_t nos[MaxColunas + 1];
+        int quant = 0;
+        int comum(const Token* t, int m) const {
+            int j = 0;
+            while (j < m && j < quant && t[j] == tokens[j])
+                ++j;
+            return j;
+        }
+    };
+    auto caminhos = std::make_unique<std::array<Caminho, 3>>();
+    Caminho* ultimo = &(*caminhos)[0];
+    Caminho* penultimo = &(*caminhos)[1];
+    Caminho* atual = &(*caminhos)[2];
+    ultimo->nos[0] = penultimo->nos[0] = atual->nos[0] = 0;
     for (int64_t r = 0; r < quant; ++r) {
-        const int m = tokens(r, atual);
-        int j = 0;
-        while (j < m && j < quantAnterior && atual[j] == anterior[j])
-            ++j;
+        const int m = tokens(r, atual->tokens);
+        atual->quant = m;
+        int j = ultimo->comum(atual->tokens, m);
+        const Caminho* base = ultimo;
+        if (j < m) {
+            const int j2 = penultimo->comum(atual->tokens, m);
+            if (j2 > j) {
+                j = j2;
+                base = penultimo;
+            }
+        }
+        std::copy(base->nos + 1, base->nos + j + 1, atual->nos + 1);
         for (int k = j; k < m; ++k)
-            caminho[k + 1] = filho(caminho[k], atual[k], true);
+            atual->nos[k + 1] = filho(atual->nos[k], atual->tokens[k], true);
         for (int k = 1; k <= m; ++k)
-            ++conta_[caminho[k]];
-        fimLinha_[size_t(r)] = caminho[m];
-        if (m > 0 && atual[0] == arroba_) temArroba_ = true;
-        std::copy(atual, atual + m, anterior);
-        quantAnterior = m;
+            ++conta_[atual->nos[k]];
+        fimLinha_[size_t(r)] = atual->nos[m];
+        if (m > 0 && atual->tokens[0] == arroba_) temArroba_ = true;
+        // The row becomes the last, the last the one before.
+        Caminho* livre = penultimo;
+        penultimo = ultimo;
+        ultimo = atual;
+        atual = livre;
     }
 }
 
@@ -85,12 +111,17 @@ int ApostasIguais::tokens(int64_t linha, Token* saida) {
     return quant;
 }
 
+size_t ApostasIguais::posicao(uint64_t chave, size_t mascara) {
+    const uint64_t no = (chave - 1) >> 32, token = (chave - 1) & 0xFFFFFFFFu;
+    return size_t(espalha(no) + token) & mascara;
+}
+
 uint32_t ApostasIguais::filho(uint32_t no, Token t, bool cria) {
     const uint64_t chave = ((uint64_t(no) << 32) | t) + 1;
-    size_t mascara = chaves_.size() - 1;
-    size_t i = size_t(espalha(chave)) & mascara;
-    while (chaves_[i] != 0) {
-        if (chaves_[i] == chave) return valores_[i];
+    const size_t mascara = tabela_.size() - 1;
+    size_t i = posicao(chave, mascara);
+    while (tabela_[i].chave != 0) {
+        if (tabela_[i].chave == chave) return tabela_[i].no;
         i = (i + 1) & mascara;
     }
     if (!cria) return SemNo;
@@ -101,32 +132,27 @@ uint32_t ApostasIguais::filho(uint32_t no, Token t, bool cria) {
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
-    chaves_[i] = chave;
-    valores_[i] = novo;
-    if (++ocupados_ * 10 > chaves_.size() * 7) cresceTabela();
+    tabela_[i] = {chave, novo};
+    if (++ocupados_ * 2 > tabela_.size()) cresceTabela();
     return novo;
 }
 
 void ApostasIguais::cresceTabela() {
-    std::vector<uint64_t> chaves;
-    std::vector<uint32_t> valores;
+    std::vector<Entrada> nova;
     try {
-        chaves.assign(chaves_.size() * 2, 0);
-        valores.assign(chaves_.size() * 2, 0);
+        nova.assign(tabela_.size() * 2, Entrada{});
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
-    const size_t mascara = chaves.size() - 1;
-    for (size_t j = 0; j < chaves_.size(); ++j) {
-        if (chaves_[j] == 0) continue;
-        size_t i = size_t(espalha(chaves_[j])) & mascara;
-        while (chaves[i] != 0)
+    const size_t mascara = nova.size() - 1;
+    for (const Entrada& e : tabela_) {
+        if (e.chave == 0) continue;
+        size_t i = posicao(e.chave, mascara);
+        while (nova[i].chave != 0)
             i = (i + 1) & mascara;
-        chaves[i] = chaves_[j];
-        valores[i] = valores_[j];
+        nova[i] = e;
     }
-    chaves_.swap(chaves);
-    valores_.swap(valores);
+    tabela_.swap(nova);
 }
 
 bool ApostasIguais::temIgual(int64_t linha) const {
@@ -159,8 +185,8 @@ void ApostasIguais::marca(int64_t linha) {
 }
 
 size_t ApostasIguais::bytesUsados() const {
-    return pai_.capacity() * 4 + conta_.capacity() * 4 + fimLinha_.capacity() * 4 + chaves_.capacity() * 8 +
-           valores_.capacity() * 4;
+    return pai_.capacity() * 4 + conta_.capacity() * 4 + fimLinha_.capacity() * 4 +
+           tabela_.capacity() * sizeof(Entrada);
 }
 
 } // namespace sorvelo

@@ -51,9 +51,15 @@ private:
     std::vector<uint32_t> pai_;   // parent of each node; the root is node 0
     std::vector<uint32_t> conta_; // rows whose sequence begins with the node's prefix
     std::vector<uint32_t> fimLinha_;
-    // Open addressing: key (node << 32 | token) + 1, 0 for a free slot.
-    std::vector<uint64_t> chaves_;
-    std::vector<uint32_t> valores_;
+    // Open addressing: key (node << 32 | token) + 1, 0 for a free slot. The
+    // children of a node lie side by side, so that a walk down rows that
+    // share a beginning stays in a few cache lines.
+    struct Entrada {
+        uint64_t chave = 0;
+        uint32_t no = 0;
+    };
+    static size_t posicao(uint64_t chave, size_t mascara);
+    std::vector<Entrada> tabela_;
     size_t ocupados_ = 0;
     QHash<QString, Token> outros_;
     Token arroba_;

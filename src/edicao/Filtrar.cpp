@@ -144,7 +144,9 @@ Int16 Filtrar::Cont(int64_t i) const {
 }
 
 int16_t Filtrar::Limite::le() {
-    if (!lido || txt->Text != texto) {
+    // An unchanged box still shares its text with the copy kept here.
+    const bool mesmo = lido && txt->Text.constData() == texto.constData() && txt->Text.size() == texto.size();
+    if (!mesmo) {
         texto = txt->Text;
         lido = true;
         estouro = false;
