@@ -25,6 +25,10 @@ constexpr uint8_t Riscada = 254;
 constexpr int Colunas = 256;
 } // namespace
 
+void BtnEliminar(Programa& p, const std::function<void(Programa&)>& mostraEliminar) {
+    if (mostraEliminar) mostraEliminar(p);
+}
+
 Eliminar::Eliminar(Programa& p) : p_(p) {}
 
 void Eliminar::fecha() {

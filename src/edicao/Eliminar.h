@@ -47,4 +47,8 @@ private:
     bool aberto_ = true;
 };
 
+// "Eliminação de números" of the main window: the dialog, shown modally by
+// the function given, with no test of the bank first.
+void BtnEliminar(Programa& p, const std::function<void(Programa&)>& mostraEliminar);
+
 } // namespace sorvelo

@@ -18,6 +18,11 @@ bool ehNumero(uint8_t c) {
 }
 } // namespace
 
+void BtnFiltrar(Programa& p, const std::function<void(Programa&)>& mostraFiltrar) {
+    p.e.Historico += p.agoraTexto() + QStringLiteral(": Filtragem de apostas\r\n");
+    if (mostraFiltrar) mostraFiltrar(p);
+}
+
 int LinhaDoNumero(int n) {
     return n % 10 != 0 ? n / 10 : n / 10 - 1;
 }

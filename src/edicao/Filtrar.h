@@ -99,6 +99,11 @@ private:
     std::unique_ptr<ApostasIguais> iguais_;
 };
 
+// "Filtrar banco de apostas" of the main window: the log line
+// ": Filtragem de apostas" (which stays when the dialog is cancelled), then
+// the dialog, shown modally by the function given.
+void BtnFiltrar(Programa& p, const std::function<void(Programa&)>& mostraFiltrar);
+
 // The row and the column of a number on the card ten numbers wide:
 // 01..10 are row 0, 01, 11, 21... column 0; 00 gives -1 for both.
 int LinhaDoNumero(int n);

@@ -284,3 +284,11 @@ TEST_F(Eliminacao, IgualAoRitoSimplesEmBancosAleatoriosComCelulasAntigas) {
         ASSERT_EQ(celulas(c.p.e.VetBan, quant), esperado) << "case " << caso;
     }
 }
+
+TEST_F(Eliminacao, BotaoDoPrincipalMostraODialogoSemTestarOBanco) {
+    int vezes = 0;
+    const QString historico = b.p.e.Historico;
+    BtnEliminar(b.p, [&](Programa&) { ++vezes; });
+    EXPECT_EQ(vezes, 1);
+    EXPECT_EQ(b.p.e.Historico, historico); // the line comes with "Iniciar"
+}

@@ -455,3 +455,35 @@ TEST_F(Filtro, FaltaDeFimNaLinhaEFalhaDeSubscrito) {
     Filtrar f(b.p);
     EXPECT_EQ(falhaDe([&] { f.BtnOK(); }), erro::SubscritoForaIntervalo);
 }
+
+// ---- The main window's button ----
+
+TEST_F(Filtro, BotaoDoPrincipalRegistraNoHistoricoMesmoCancelando) {
+    b.apostas({"01 02 03", "04 05 06"});
+    const QString historico = b.p.e.Historico;
+    const QString texto = b.p.tela.TxtBanco.texto();
+    int vezes = 0;
+    BtnFiltrar(b.p, [&](Programa& p) {
+        ++vezes;
+        EXPECT_EQ(p.e.Historico, historico + Agora + QStringLiteral(": Filtragem de apostas\r\n"));
+        Filtrar f(p);
+        f.ChkIgual.Value = true;
+        f.BtnCancelar();
+    });
+    EXPECT_EQ(vezes, 1);
+    EXPECT_EQ(b.p.e.Historico, historico + Agora + QStringLiteral(": Filtragem de apostas\r\n"));
+    EXPECT_EQ(b.banco(), (QStringList{"01 02 03", "04 05 06"}));
+    EXPECT_EQ(b.p.tela.TxtBanco.texto(), texto);
+}
+
+TEST_F(Filtro, OkSemNadaMarcadoReescreveOTexto) {
+    b.p.e.DezEscolhidas = QStringLiteral("01 02 03 ");
+    InsereLinhaBanco(b.p, CabecalhoLote(b.p), true);
+    b.apostas({"01 02 03"});
+    BtnFiltrar(b.p, [](Programa& p) {
+        Filtrar f(p);
+        f.BtnOK();
+    });
+    EXPECT_EQ(b.p.tela.TxtBanco.texto(), QStringLiteral("00001)   01 02 03 \r\n"));
+    EXPECT_TRUE(b.p.e.Historico.endsWith(QStringLiteral(": Filtragem de apostas\r\n")));
+}
