@@ -208,11 +208,11 @@ void quadratica() {
         amostra[std::uniform_int_distribution<size_t>(0, amostra.size() - 1)(rng)] =
             amostra[std::uniform_int_distribution<size_t>(0, amostra.size() - 1)(rng)];
     Bancada b(amostra);
-    const MatrizTexto original = b.p.e.VetBan;
+    const MatrizTexto inicial = b.p.e.VetBan;
     const int32_t quant = b.p.e.QuantBan.valor();
     teste::ReferenciaFiltro ref;
     ref.marcadas[7] = true;
-    const Medida mr = mede([&] { ref.executa(original, quant); });
+    const Medida mr = mede([&] { ref.executa(inicial, quant); });
     Filtrar f(b.p);
     f.ChkIgual.Value = true;
     const Medida mp = mede([&] { f.BtnOK(); });

@@ -89,15 +89,15 @@ void escreve(BancoTeste& b, const std::vector<QStringList>& linhas) {
 }
 
 // Runs both on the same bank and compares everything the run leaves.
-void compara(BancoTeste& b, const MatrizTexto& original, int32_t quant, const std::array<bool, 8>& marcadas,
+void compara(BancoTeste& b, const MatrizTexto& inicial, int32_t quant, const std::array<bool, 8>& marcadas,
              const std::array<QString, 7>& limites, const std::string& contexto) {
     ReferenciaFiltro ref;
     ref.marcadas = marcadas;
     ref.limites = limites;
     ref.numLinhas = ReferenciaFiltro::linhasDoJogo(b.p.e.NomeLoteria);
-    ref.executa(original, quant);
+    ref.executa(inicial, quant);
 
-    b.p.e.VetBan = original;
+    b.p.e.VetBan = inicial;
     b.p.e.QuantBan = quant;
     Filtrar f(b.p);
     auto criterios = f.criterios();
@@ -134,7 +134,7 @@ TEST(FiltroReferencia, TodasAsCombinacoesDeCaixasELimitesDeZeroAQuatro) {
         BancoTeste b{jogo};
         const int menor = b.p.e.NumIni.valor(), maior = b.p.e.NumFim.valor();
         escreve(b, g.banco(menor, maior, 14, banco % 7 == 6));
-        const MatrizTexto original = b.p.e.VetBan;
+        const MatrizTexto inicial = b.p.e.VetBan;
         const int32_t quant = b.p.e.QuantBan.valor();
         for (int mascara = 0; mascara < 256; ++mascara) {
             std::array<bool, 8> marcadas{};
@@ -143,7 +143,7 @@ TEST(FiltroReferencia, TodasAsCombinacoesDeCaixasELimitesDeZeroAQuatro) {
             std::array<QString, 7> limites;
             for (QString& l : limites)
                 l = QString::number(g.ate(4));
-            compara(b, original, quant, marcadas, limites,
+            compara(b, inicial, quant, marcadas, limites,
                     jogo.toStdString() + " mask " + std::to_string(mascara));
             if (HasFatalFailure()) return;
         }
@@ -155,7 +155,7 @@ TEST(FiltroReferencia, CadaLimiteDeZeroAQuatroEmTodasAsCaixas) {
     for (int banco = 0; banco < 30; ++banco) {
         BancoTeste b{QString::fromUtf8(Jogos[banco % 4])};
         escreve(b, g.banco(b.p.e.NumIni.valor(), b.p.e.NumFim.valor(), 20, false));
-        const MatrizTexto original = b.p.e.VetBan;
+        const MatrizTexto inicial = b.p.e.VetBan;
         for (int limite = 0; limite <= 4; ++limite) {
             for (int mascara = 0; mascara < 256; ++mascara) {
                 std::array<bool, 8> marcadas{};
@@ -163,7 +163,7 @@ TEST(FiltroReferencia, CadaLimiteDeZeroAQuatroEmTodasAsCaixas) {
                     marcadas[size_t(i)] = (mascara >> i) & 1;
                 std::array<QString, 7> limites;
                 limites.fill(QString::number(limite));
-                compara(b, original, b.p.e.QuantBan.valor(), marcadas, limites,
+                compara(b, inicial, b.p.e.QuantBan.valor(), marcadas, limites,
                         "limit " + std::to_string(limite) + " mask " + std::to_string(mascara));
                 if (HasFatalFailure()) return;
             }
