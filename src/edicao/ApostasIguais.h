@@ -1,13 +1,15 @@
 // The index behind the filter's identical-bets test. A bet has an equal when
 // another row holds the same cells at the same places, from cell 0 up to the
 // bet's own "#": so a bet equals any longer bet that begins with it. Rather
-// than comparing each bet with every other one, the index keeps a tree of
-// every prefix of every row (one node per distinct prefix) with the number
-// of rows that currently begin with it. A bet has an equal when the node of
-// its whole sequence is shared by at least two rows. Marking a row "@"
-// changes its cell 0, so its old prefixes lose it; its new sequence matters
-// only to rows that begin with "@" themselves, and is entered only when
-// such rows exist.
+// than comparing each bet with every other one, the index sorts the rows by
+// their cells once; the rows that begin with a given bet then stand side by
+// side, from the first row equal to it to the last row that still begins
+// with it. A tree of counts over the sorted places (one for each row not
+// marked) tells in a logarithmic time how many rows of that stretch are
+// still there. Marking a row "@" changes its cell 0, so it leaves every
+// stretch; a marked row can still equal only a bet that itself begins with
+// "@", and those rare bets are compared with the marked rows one by one.
+// The memory is a few words a row, whatever the length of the bets.
 #pragma once
 
 #include "core/MatrizTexto.h"
@@ -28,41 +30,30 @@ public:
     // True when another row holds the cells of this (unmarked) row, from
     // cell 0 up to its "#", at the same places.
     bool temIgual(int64_t linha) const;
-    // The row's cell 0 has become "@".
+    // The row is about to be marked "@" in its cell 0 (call it before the
+    // mark is written).
     void marca(int64_t linha);
 
-    // Nodes of the tree (for the memory figures).
-    size_t quantNos() const { return pai_.size(); }
     size_t bytesUsados() const;
 
 private:
-    using Token = uint32_t;
-    static constexpr uint32_t SemNo = 0xFFFFFFFFu;
-
-    // The tokens of a row up to its first "#" (all its columns when it has
-    // none); a text that is not a compact code gets an id of its own.
-    int tokens(int64_t linha, Token* saida);
-    Token token(const QString& texto);
-    uint32_t filho(uint32_t no, Token t, bool cria);
-    void cresceTabela();
+    // A cell as an order: the end of the bet first, then the compact codes,
+    // then the other texts in the order first seen.
+    uint32_t token(int64_t linha, int coluna, uint8_t codigo);
+    int comprimento(int64_t linha) const; // the column of the "#"
+    bool comecaComArroba(int64_t linha) const;
+    int compara(uint32_t a, uint32_t b, int& comum);
+    int64_t soma(int64_t ate) const; // rows present at sorted places 0..ate
+    bool igualAMarcada(int64_t linha, int m, int64_t marcada) const;
 
     const MatrizTexto& vet_;
-    int colunas_;
-    std::vector<uint32_t> pai_;   // parent of each node; the root is node 0
-    std::vector<uint32_t> conta_; // rows whose sequence begins with the node's prefix
-    std::vector<uint32_t> fimLinha_;
-    // Open addressing: key (node << 32 | token) + 1, 0 for a free slot. The
-    // children of a node lie side by side, so that a walk down rows that
-    // share a beginning stays in a few cache lines.
-    struct Entrada {
-        uint64_t chave = 0;
-        uint32_t no = 0;
-    };
-    static size_t posicao(uint64_t chave, size_t mascara);
-    std::vector<Entrada> tabela_;
-    size_t ocupados_ = 0;
-    QHash<QString, Token> outros_;
-    Token arroba_;
+    int64_t quant_;
+    std::vector<uint32_t> lugar_; // sorted place of each row
+    std::vector<uint32_t> desde_; // per place: first place of the rows equal to it
+    std::vector<uint32_t> ate_;   // per place: last place of the rows that begin with it
+    std::vector<int32_t> arvore_; // counts of the rows present, by place (Fenwick)
+    std::vector<uint32_t> marcadas_;
+    QHash<QString, uint32_t> outros_;
     bool temArroba_ = false; // some row begins with "@"
 };
 
