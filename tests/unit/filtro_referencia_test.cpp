@@ -27,8 +27,9 @@ struct Gerador {
 
     // A bet of numbers drawn from a narrow band, so that runs and repeats
     // are frequent.
+    int maiorTamanho = 7;
     QStringList nova(int menor, int maior) {
-        const int tamanho = ate(7);
+        const int tamanho = ate(maiorTamanho);
         QStringList numeros;
         const int base = menor + ate(std::max(0, maior - menor - 9));
         std::vector<int> escolhidos;
@@ -206,4 +207,23 @@ TEST(FiltroReferencia, ArrobaNosDadosIgualaAsLinhasMarcadas) {
     // Row 0 is marked by row 1; then "@ 06" equals the marked row 0, the
     // empty bet equals anything, and the lone "@" equals the marked rows.
     EXPECT_EQ(ref.sobreviventes, QStringList{QStringLiteral("05 06 ")});
+}
+
+TEST(FiltroReferencia, ApostasLongasQueDividemOsPrimeirosNumeros) {
+    // Bets of up to 16 numbers from a band of 20, sorted: they share long
+    // beginnings, past the cells that the index packs in its sort key.
+    Gerador g(1234);
+    g.maiorTamanho = 16;
+    for (int banco = 0; banco < 600; ++banco) {
+        BancoTeste b{QStringLiteral("Lotomania")};
+        const auto linhas = g.banco(0, 19, 30, banco % 5 == 0);
+        escreve(b, linhas);
+        std::array<bool, 8> marcadas{};
+        marcadas[7] = true;
+        if (banco % 3 == 1) marcadas[5] = true;
+        std::array<QString, 7> limites;
+        limites.fill(QString::number(2 + g.ate(6)));
+        compara(b, b.p.e.VetBan, b.p.e.QuantBan.valor(), marcadas, limites, descreve(linhas));
+        if (HasFatalFailure()) return;
+    }
 }
