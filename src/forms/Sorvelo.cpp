@@ -5,6 +5,8 @@
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
+#include "Eliminar.h"
+#include "Filtrar.h"
 #include "Protecao.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
@@ -301,8 +303,9 @@ void Sorvelo::montaQuadroBanco() {
         poe(new QPushButton(QStringLiteral("X")), fraBanco_, "BtnLimparBanco", 4860, 3570, 315, 315);
     limpaBanco->setToolTip(QStringLiteral("Limpar o banco de apostas"));
     liga(limpaBanco, &QPushButton::clicked, [this] { BtnLimparBanco(p_); });
-    poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar", 120, 4020, 2535,
-        375);
+    auto* filtrar = poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar",
+                        120, 4020, 2535, 375);
+    liga(filtrar, &QPushButton::clicked, [this] { BtnFiltrar(p_, mostraFiltrar(this)); });
     poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
         2415, 375);
     auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
@@ -394,8 +397,9 @@ void Sorvelo::montaQuadroOpcoes() {
         poe(new QPushButton(QStringLiteral("Jogo a jogo")), frame3_, "CommandButton1", 2880, 600, 2415, 330);
     auto* digitar =
         poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
-    poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar", 2880, 1080, 2415,
-        375);
+    auto* eliminar = poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar",
+                         2880, 1080, 2415, 375);
+    liga(eliminar, &QPushButton::clicked, [this] { BtnEliminar(p_, mostraEliminar(this)); });
     Q_UNUSED(jogoAJogo);
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);

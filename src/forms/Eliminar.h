@@ -1,0 +1,32 @@
+// The dialog "Eliminação aleatória de números": the quantity to strike from
+// every bet, the counter and "Iniciar". The work is the logic's
+// (edicao/Eliminar.h); the run yields every 13 bets, and the dialog can be
+// clicked and closed meanwhile: the form stays alive until the run returns.
+#pragma once
+
+#include "Formulario.h"
+#include "edicao/Eliminar.h"
+
+class QLineEdit;
+
+namespace sorvelo {
+
+class JanelaEliminar : public Formulario {
+    Q_OBJECT
+public:
+    explicit JanelaEliminar(Programa& p, QWidget* pai = nullptr);
+    void sincroniza() override;
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    Eliminar e_;
+    QLineEdit* txtQuant_ = nullptr;
+    QLabel* lblCont_ = nullptr;
+};
+
+// The function through which the main window shows the dialog, modal.
+std::function<void(Programa&)> mostraEliminar(QWidget* pai);
+
+} // namespace sorvelo
