@@ -67,6 +67,7 @@ void SortComb::BtnOK() {
         const Int16 c = Int16::de(int64_t(std::floor(tamanho * r)));
         if (!TestaRepeticao(c)) {
             MarcaNumero(p_, c);
+            if (aoMarcar) aoMarcar(c);
             Sorteados(QuantSorteados.valor()) = c;
             sorteados += 1;
             QuantSorteados += 1;

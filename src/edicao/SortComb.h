@@ -26,6 +26,9 @@ public:
     void BtnCancelar();
     bool aberto() const { return aberto_; }
     std::function<void()> aoFechar;
+    // Told after each cell is marked, before the yield, so that the grid
+    // can show it.
+    std::function<void(Int16)> aoMarcar;
 
     // True when cell c was drawn already in this run.
     bool TestaRepeticao(Int16 c) const;
