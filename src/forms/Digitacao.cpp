@@ -1,5 +1,8 @@
 #include "Digitacao.h"
 
+#include "Controles.h"
+#include "Sorvelo.h"
+
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -148,10 +151,7 @@ bool JanelaDigitacao::eventFilter(QObject* alvo, QEvent* e) {
     if (e->type() == QEvent::FocusIn) {
         Digitacao::Foco f;
         if (focoDe(alvo, f)) {
-            if (auto* t = qobject_cast<QLineEdit*>(alvo))
-                QTimer::singleShot(0, t, [t] {
-                    if (t->hasFocus()) t->selectAll();
-                });
+            if (auto* t = qobject_cast<QLineEdit*>(alvo)) selecionaAoFocar(t, static_cast<QFocusEvent*>(e));
             // The logic's own moves arrive here already known to it.
             if (!sincronizando_ && f != d_.foco) {
                 executaProtegido([&] { d_.recebeFoco(f); });
@@ -214,6 +214,8 @@ void JanelaDigitacao::sincroniza() {
     btnExcluir_->setText(legenda(d_.BtnExcluir.Caption));
     btnInserirBanco_->setText(legenda(d_.BtnInserirBanco.Caption));
     sincronizando_ = antes;
+    // The bets went into the main window's bank.
+    if (auto* principal = qobject_cast<Sorvelo*>(parentWidget())) principal->sincroniza();
 }
 
 } // namespace sorvelo

@@ -84,7 +84,7 @@ void JanelaSortComb::closeEvent(QCloseEvent* e) {
 bool JanelaSortComb::eventFilter(QObject* alvo, QEvent* e) {
     // The box's text is selected whenever it gets the focus.
     if (alvo == txtDez_ && e->type() == QEvent::FocusIn)
-        QTimer::singleShot(0, txtDez_, [t = txtDez_] { t->selectAll(); });
+        selecionaAoFocar(txtDez_, static_cast<QFocusEvent*>(e));
     return Formulario::eventFilter(alvo, e);
 }
 
