@@ -14,18 +14,18 @@ namespace sorvelo {
 
 JanelaSortComb::JanelaSortComb(Programa& p, QWidget* pai)
     : Formulario(p, "SortComb", QStringLiteral("Sortear números para combinação"), pai), s_(p) {
-    tamanho(4560, 1500);
-    rotulo(QStringLiteral("Informe a quantidade de números a sortear:"), 240, 300, 3000, 255, "Label1");
-    txtDez_ = poe(new QLineEdit, this, "TxtDez", 3360, 240, 555, 315);
+    tamanho(5160, 1500);
+    rotulo(QStringLiteral("Informe a quantidade de números a sortear:"), 240, 300, 3540, 255, "Label1");
+    txtDez_ = poe(new QLineEdit, this, "TxtDez", 3900, 240, 555, 315);
     txtDez_->setMaxLength(3);
     txtDez_->setAlignment(Qt::AlignCenter);
     txtDez_->installEventFilter(this);
-    scrDez_ = poe(new QScrollBar(Qt::Vertical), this, "ScrDez", 3915, 240, 255, 315);
+    scrDez_ = poe(new QScrollBar(Qt::Vertical), this, "ScrDez", 4455, 240, 255, 315);
     scrDez_->setRange(SortComb::ScrMin, SortComb::ScrMax);
     scrDez_->setValue(s_.ScrDez);
-    auto* ok = poe(new QPushButton(QStringLiteral("OK")), this, "BtnOK", 720, 840, 1455, 435);
+    auto* ok = poe(new QPushButton(QStringLiteral("OK")), this, "BtnOK", 960, 840, 1455, 435);
     auto* cancelar =
-        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 2400, 840, 1455, 435);
+        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 2700, 840, 1455, 435);
     for (QPushButton* b : {ok, cancelar}) {
         b->setAutoDefault(false);
         b->setDefault(false);

@@ -28,8 +28,8 @@ QScrollBar* JanelaSortear::barra(QWidget* pai, const char* nome, int x, int y, i
 
 JanelaSortear::JanelaSortear(Programa& p, QWidget* pai)
     : Formulario(p, "Sortear", QStringLiteral("Sortear apostas"), pai), s_(p) {
-    tamanho(8400, 5940);
-    auto* frame2 = poe(new QGroupBox(QStringLiteral("Configurações")), this, "Frame2", 120, 120, 8160, 3180);
+    tamanho(8880, 5700);
+    auto* frame2 = poe(new QGroupBox(QStringLiteral("Configurações")), this, "Frame2", 120, 120, 8640, 2940);
     escala_.rotulo(frame2, QStringLiteral("Informe a quantidade de apostas a sortear:"), 240, 360, 4560, 255,
                    "Label4");
     txtQuant_ = poe(caixa(0), frame2, "TxtQuant", 4920, 300, 735, 315);
@@ -55,25 +55,25 @@ JanelaSortear::JanelaSortear(Programa& p, QWidget* pai)
              [this, i](const QString& t) { s_.Excluir[size_t(i)] = t; });
     }
 
-    auto* frame1 = poe(new QGroupBox(QStringLiteral("Opções")), this, "Frame1", 120, 3420, 8160, 1695);
+    auto* frame1 = poe(new QGroupBox(QStringLiteral("Opções")), this, "Frame1", 120, 3180, 8640, 1695);
     checkBox2_ =
         poe(new QCheckBox(QStringLiteral("Sortear números dentro das dezenas com mais ocorrências na "
                                          "proporção de  dos números sorteados")),
-            frame1, "CheckBox2", 240, 300, 7800, 315);
+            frame1, "CheckBox2", 240, 300, 8280, 315);
     txtMaisOco_ = poe(caixa(0), frame1, "TxtMaisOco", 600, 615, 555, 315);
     scrMaisOco_ = barra(frame1, "ScrMaisOco", 1155, 615, s_.ScrMaisOco);
     escala_.rotulo(frame1, QStringLiteral("%"), 1470, 645, 255, 255, "Label2");
     checkBox1_ =
         poe(new QCheckBox(QStringLiteral("Sortear números dentro das dezenas com menos ocorrências na "
                                          "proporção de  dos números sorteados")),
-            frame1, "CheckBox1", 240, 960, 7800, 315);
+            frame1, "CheckBox1", 240, 960, 8280, 315);
     txtMenosOco_ = poe(caixa(0), frame1, "TxtMenosOco", 600, 1275, 555, 315);
     scrMenosOco_ = barra(frame1, "ScrMenosOco", 1155, 1275, s_.ScrMenosOco);
     escala_.rotulo(frame1, QStringLiteral("%"), 1470, 1305, 255, 255, "Label1");
 
-    auto* ok = poe(new QPushButton(QStringLiteral("OK")), this, "BtnOK", 2400, 5280, 1575, 435);
+    auto* ok = poe(new QPushButton(QStringLiteral("OK")), this, "BtnOK", 2640, 5040, 1575, 435);
     auto* cancelar =
-        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 4320, 5280, 1575, 435);
+        poe(new QPushButton(QStringLiteral("Cancelar")), this, "BtnCancelar", 4560, 5040, 1575, 435);
     for (QPushButton* b : {ok, cancelar}) {
         b->setAutoDefault(false);
         b->setDefault(false);
