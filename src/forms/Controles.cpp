@@ -1,9 +1,12 @@
 #include "Controles.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -75,6 +78,16 @@ void Figura::mouseReleaseEvent(QMouseEvent* e) {
 void Figura::mouseMoveEvent(QMouseEvent* e) {
     const QPoint p = e->position().toPoint();
     emit movido(p.x(), p.y());
+}
+
+void selecionaAoFocar(QLineEdit* caixa, const QFocusEvent* e) {
+    if (e->reason() != Qt::MouseFocusReason) {
+        caixa->selectAll();
+        return;
+    }
+    QTimer::singleShot(0, caixa, [caixa] {
+        if (caixa->hasFocus()) caixa->selectAll();
+    });
 }
 
 void FiltroEnter::instala() {

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QWidget>
 
+class QFocusEvent;
+class QLineEdit;
 class QToolButton;
 
 namespace sorvelo {
@@ -71,6 +73,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
 };
+
+// SelecionaTexto on a box that gets the focus: all its text selected (after
+// the press, when the mouse brought the focus).
+void selecionaAoFocar(QLineEdit* caixa, const QFocusEvent* e);
 
 // Enter, in a window of the program, is swallowed and a Tab takes its place.
 class FiltroEnter : public QObject {

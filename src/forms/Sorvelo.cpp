@@ -7,12 +7,16 @@
 #include "Desenhos.h"
 #include "Eliminar.h"
 #include "Filtrar.h"
+#include "Digitacao.h"
 #include "Protecao.h"
+#include "SortComb.h"
+#include "Sortear.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
+#include "edicao/Sortear.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
 
@@ -150,6 +154,19 @@ void Sorvelo::abreConferencia() {
     janelaConf_->mostra();
 }
 
+void Sorvelo::abreDigitacao() {
+    if (janelaDigitacao_) {
+        janelaDigitacao_->raise();
+        janelaDigitacao_->activateWindow();
+        return;
+    }
+    janelaDigitacao_ = new JanelaDigitacao(p_, this);
+    // Beside the main window, on its right.
+    const QRect fora = frameGeometry();
+    janelaDigitacao_->move(fora.right() + 1, fora.top());
+    janelaDigitacao_->mostra();
+}
+
 void Sorvelo::montaMenus() {
     auto menu = [this](const char* nome, const QString& titulo) {
         QMenu* m = menuBar()->addMenu(titulo);
@@ -260,6 +277,10 @@ void Sorvelo::montaQuadroNumeros() {
     liga(picSort1_, &Figura::pressionado, [this] {
         p_.tela.PicSort1Left = 260;
         p_.tela.PicSort1Top = 3020;
+    });
+    liga(picSort1_, &Figura::clicked, [this] {
+        JanelaSortComb janela(p_, this);
+        janela.mostraModal();
     });
     liga(picSort1_, &Figura::solto, [this] {
         p_.tela.PicSort1Left = 240;
@@ -401,6 +422,12 @@ void Sorvelo::montaQuadroOpcoes() {
                          2880, 1080, 2415, 375);
     liga(eliminar, &QPushButton::clicked, [this] { BtnEliminar(p_, mostraEliminar(this)); });
     Q_UNUSED(jogoAJogo);
+    liga(sortear, &QPushButton::clicked, [this] {
+        BtnSortear(p_);
+        JanelaSortear janela(p_, this);
+        janela.mostraModal();
+    });
+    liga(digitar, &QPushButton::clicked, [this] { abreDigitacao(); });
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);
     for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),

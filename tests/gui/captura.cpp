@@ -7,6 +7,8 @@
 #include "core/Principal.h"
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
+#include "forms/Digitacao.h"
+#include "forms/SortComb.h"
 #include "forms/Sorvelo.h"
 #include "platform/Duplos.h"
 
@@ -19,7 +21,8 @@ using namespace sorvelo;
 
 namespace {
 void marca(Programa& p, std::initializer_list<int> celulas) {
-    for (int c : celulas) ClicaNumero(p, Int16(int16_t(c)));
+    for (int c : celulas)
+        ClicaNumero(p, Int16(int16_t(c)));
 }
 
 // Saves the modal dialog on top when it shows, then runs `depois` on it.
@@ -45,9 +48,8 @@ int main(int argc, char** argv) {
         const QDir pasta(args.value(1, QStringLiteral(".")));
         marca(p, {2, 8, 15, 21, 33, 40, 47, 52});
         janela.sincroniza();
-        aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")), [](QWidget* d) {
-            d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
-        });
+        aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")),
+                [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); });
         janela.findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
         janela.grab().save(pasta.filePath(QStringLiteral("principal.png")));
         janela.findChild<QPushButton*>(QStringLiteral("BtnConferir"))->click();
@@ -56,9 +58,21 @@ int main(int argc, char** argv) {
             conf->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
             conf->grab().save(pasta.filePath(QStringLiteral("conferencia.png")));
         }
+        aoAbrir(pasta.filePath(QStringLiteral("sortear.png")),
+                [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnCancelar"))->click(); });
+        janela.findChild<QPushButton*>(QStringLiteral("BtnSortear"))->click();
+        aoAbrir(pasta.filePath(QStringLiteral("sortcomb.png")),
+                [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnCancelar"))->click(); });
+        JanelaSortComb(p, &janela).mostraModal();
+        janela.findChild<QPushButton*>(QStringLiteral("BtnDigitar"))->click();
+        if (auto* dig = janela.findChild<JanelaDigitacao*>(QStringLiteral("Digitacao"))) {
+            QApplication::processEvents();
+            dig->grab().save(pasta.filePath(QStringLiteral("digitacao.png")));
+        }
         return 0;
     }
-    for (int i = 1; i < args.size(); ++i) ClicaNumero(p, Int16(int16_t(args[i].toInt())));
+    for (int i = 1; i < args.size(); ++i)
+        ClicaNumero(p, Int16(int16_t(args[i].toInt())));
     if (args.size() > 1) {
         InsereApostaMarcada(p);
         AtualizaContadores(p);

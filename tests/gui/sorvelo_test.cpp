@@ -375,10 +375,19 @@ TEST_F(JanelaPrincipal, FiguraDeSortearAfundaAoApertarEVoltaAoSoltar) {
                        Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &aperta);
     EXPECT_EQ(figura->pos(), QPoint(janela->tw(260), janela->tw(3020)));
+    // The release is a click: it opens the random choice of numbers, closed here.
+    QString aberto;
+    QTimer::singleShot(0, [&aberto] {
+        if (QWidget* m = QApplication::activeModalWidget()) {
+            aberto = m->windowTitle();
+            m->close();
+        }
+    });
     QMouseEvent solta(QEvent::MouseButtonRelease, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)),
                       Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &solta);
     EXPECT_EQ(figura->pos(), repouso);
+    EXPECT_EQ(aberto, QStringLiteral("Sortear números para combinação"));
     QMouseEvent move(QEvent::MouseMove, QPointF(4, 4), figura->mapToGlobal(QPointF(4, 4)), Qt::NoButton,
                      Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &move);

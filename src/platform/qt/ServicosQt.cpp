@@ -24,8 +24,13 @@ QWidget* janelaAtiva() {
     return QApplication::activeWindow();
 }
 
+// A carriage return in a message is a line break on the screen.
+QString linhas(QString texto) {
+    return texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+}
+
 void caixaSimples(QMessageBox::Icon icone, const QString& texto) {
-    QMessageBox caixa(icone, Titulo, texto, QMessageBox::Ok, janelaAtiva());
+    QMessageBox caixa(icone, Titulo, linhas(texto), QMessageBox::Ok, janelaAtiva());
     EmModal modal;
     caixa.exec();
 }
@@ -44,7 +49,7 @@ void CaixaMensagemQt::critico(const QString& texto) {
 Resposta CaixaMensagemQt::pergunta(const QString& texto, Botoes botoes, Resposta padrao) {
     QMessageBox::StandardButtons b = QMessageBox::Yes | QMessageBox::No;
     if (botoes == Botoes::SimNaoCancelar) b |= QMessageBox::Cancel;
-    QMessageBox caixa(QMessageBox::Question, Titulo, texto, b, janelaAtiva());
+    QMessageBox caixa(QMessageBox::Question, Titulo, linhas(texto), b, janelaAtiva());
     caixa.setDefaultButton(padrao == Resposta::Nao        ? QMessageBox::No
                            : padrao == Resposta::Cancelar ? QMessageBox::Cancel
                                                           : QMessageBox::Yes);
