@@ -6,6 +6,7 @@
 #include "PontuacaoRapida.h"
 
 #include <array>
+#include <bit>
 #include <cmath>
 
 // The scoring loop gets a second copy for processors with a population count
@@ -49,10 +50,42 @@ void Estatisticas::BtnEstatistica() {
 
 namespace {
 
+// The draw as one set, when its entries are distinct two-digit numbers (as
+// every test draw is); false otherwise.
+bool conjuntoDoSorteio(const Vetor<QString>& sorteio, ConjuntoDezenas& d) {
+    for (int k = 0; k <= 79; ++k) {
+        const QString& entrada = sorteio(k);
+        if (entrada == u'#') return true;
+        const uint8_t codigo = MatrizTexto::codigoDe(entrada);
+        if (codigo < MatrizTexto::PrimeiroNumero || codigo == MatrizTexto::Outro) return false;
+        if (!d.insere(codigo - MatrizTexto::PrimeiroNumero)) return false;
+    }
+    return true;
+}
+
 // Bets of the bank per score against one draw, counted in the order of the
 // rows, as 16-bit tallies: the row that would take a tally past 32767 is
-// the overflow failure there.
+// the overflow failure there. Irregular rows are scored by the text
+// comparison at their turn.
 SORVELO_CONTAGEM_DE_BITS
+void contaApostas(const Programa& p, const IndiceApostas& indice, const ConjuntoDezenas d, int64_t quant,
+                  int minimo, std::array<int32_t, 101>& cont) {
+    const ConjuntoDezenas* c = &indice.conjunto(0);
+    for (int64_t i = 0; i < quant; ++i) {
+        const ConjuntoDezenas a = c[i];
+        int s;
+        if (a.irregular()) [[unlikely]]
+            s = RetPontos2(p, int32_t(i)).valor();
+        else
+            s = std::popcount(a.baixo & d.baixo) + std::popcount(a.alto & d.alto);
+        if (s < minimo) [[likely]]
+            continue;
+        if (s > 100) foraDoIntervalo();
+        if (++cont[size_t(s)] > 32767) estouro();
+    }
+}
+
+// The same with a draw that a single set can't hold.
 void contaApostas(const Programa& p, const IndiceApostas& indice, const SorteioRapido& sorteio, int64_t quant,
                   int minimo, std::array<int32_t, 101>& cont) {
     for (int64_t i = 0; i < quant; ++i) {
@@ -88,12 +121,15 @@ void Estatisticas::contaTeste(IndiceApostas& indice) {
     if (indice.fim() != quant) indice.constroi(e.VetBan, 0, quant);
     // The threshold's text is the same for every bet of the run (nothing is
     // handled in between); it is read when the first bet has been scored.
-    const SorteioRapido sorteio(e.VetDezenas2);
     std::array<int32_t, 101> cont{};
     if (indice.conjunto(0).irregular()) RetPontos2(p_, 0);
     const int minimo = menorPontuacao(valorNumerico(tela.TxtPontos.Text));
     cont[100] = VetPontos(100).valor(); // never cleared
-    contaApostas(p_, indice, sorteio, quant, minimo, cont);
+    ConjuntoDezenas d;
+    if (conjuntoDoSorteio(e.VetDezenas2, d))
+        contaApostas(p_, indice, d, quant, minimo, cont);
+    else
+        contaApostas(p_, indice, SorteioRapido(e.VetDezenas2), quant, minimo, cont);
     for (int p = 0; p <= 100; ++p)
         VetPontos(p) = int16_t(cont[size_t(p)]);
 }
