@@ -102,6 +102,20 @@ TEST(ImpressoraQt, SemImpressoraOTrabalhoViraPdfNosDocumentosEAbre) {
     EXPECT_TRUE(
         paginas[1].trimmed().startsWith(QStringLiteral("%1)").arg(linhasPrimeira + 1, 5, 10, QChar(u'0'))));
 
+    // The words stand at the size asked for: 12 points high, give or take
+    // the font's ascent and descent.
+    const QString caixas =
+        roda(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")});
+    const QRegularExpression palavra(QStringLiteral(
+        "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">00001\\)"));
+    const QRegularExpressionMatch caixa = palavra.match(caixas);
+    ASSERT_TRUE(caixa.hasMatch()) << caixas.left(600).toStdString();
+    const double altura = caixa.captured(4).toDouble() - caixa.captured(2).toDouble();
+    const double largura = caixa.captured(3).toDouble() - caixa.captured(1).toDouble();
+    EXPECT_GT(altura, 10.0);
+    EXPECT_LT(altura, 16.0);
+    EXPECT_NEAR(largura, 6 * 12 * 0.6, 2.0) << "six characters of a monospaced font at 12 points";
+
     const QString fontes = roda(QStringLiteral("pdffonts"), {pdf});
     EXPECT_TRUE(fontes.contains(QStringLiteral("LiberationMono"))) << fontes.toStdString();
 }

@@ -9,12 +9,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGlyphRun>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRawFont>
 #include <QStandardPaths>
 #include <QTranslator>
 #include <QUrl>
@@ -114,6 +116,39 @@ QString nomePdf(const QString& pasta, const QString& janela) {
 }
 } // namespace
 
+namespace {
+// One line of plain text at the baseline y. Its characters go straight to
+// the font's glyphs, with their advances, when the font has them all (the
+// listing of a large bank is hundreds of thousands of lines); otherwise the
+// text is laid out in full.
+void desenhaLinha(QPainter& pintor, const QRawFont& fonte, QStringView linha, int y) {
+    if (linha.isEmpty()) return;
+    if (fonte.isValid()) {
+        QList<quint32> glifos(linha.size());
+        int quant = int(linha.size());
+        if (fonte.glyphIndexesForChars(linha.constData(), int(linha.size()), glifos.data(), &quant) &&
+            std::find(glifos.begin(), glifos.begin() + quant, 0u) == glifos.begin() + quant) {
+            glifos.resize(quant);
+            QList<QPointF> avancos(quant);
+            fonte.advancesForGlyphIndexes(glifos.constData(), avancos.data(), quant);
+            QList<QPointF> posicoes(quant);
+            qreal x = 0;
+            for (int i = 0; i < quant; ++i) {
+                posicoes[i] = QPointF(x, 0);
+                x += avancos[i].x();
+            }
+            QGlyphRun corrida;
+            corrida.setRawFont(fonte);
+            corrida.setGlyphIndexes(glifos);
+            corrida.setPositions(posicoes);
+            pintor.drawGlyphRun(QPointF(0, y), corrida);
+            return;
+        }
+    }
+    pintor.drawText(0, y, linha.toString());
+}
+} // namespace
+
 ImpressoraQt::ImpressoraQt()
     : impressoraPadrao([] { return QPrinterInfo::defaultPrinterName(); }),
       pastaDocumentos([] { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }) {}
@@ -156,6 +191,7 @@ void ImpressoraQt::imprime(const QString& texto) {
     comeca();
     t_->pintor.setFont(t_->fonte);
     const QFontMetrics m(t_->fonte, &t_->impressora);
+    const QRawFont fonteCrua = QRawFont::fromFont(QFont(t_->fonte, &t_->impressora));
     const QRect pagina = t_->impressora.pageLayout().paintRectPixels(t_->impressora.resolution());
     qsizetype inicio = 0;
     for (;;) {
@@ -167,7 +203,8 @@ void ImpressoraQt::imprime(const QString& texto) {
             ++paginas_;
             t_->y = 0;
         }
-        t_->pintor.drawText(0, t_->y + m.ascent(), texto.mid(inicio, fimLinha - inicio));
+        desenhaLinha(t_->pintor, fonteCrua, QStringView(texto).mid(inicio, fimLinha - inicio),
+                     t_->y + m.ascent());
         t_->y += m.height();
         if (fimLinha >= texto.size()) break;
         inicio =
