@@ -4,7 +4,9 @@
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
+#include "Estatisticas.h"
 #include "Protecao.h"
+#include "RelBanco.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
@@ -186,7 +188,8 @@ void Sorvelo::montaMenus() {
     menuLotoFacil_ = jogo("MenuLotoFacil", 4);
 
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
-    item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"), [] {});
+    item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"),
+         [this] { mostraRelBanco(p_, this); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
@@ -209,7 +212,8 @@ void Sorvelo::montaBarra() {
         {Imagem::Novo, QStringLiteral("Criar novo arquivo de jogos"), [this] { NovoArquivo(p_); }},
         {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [this] { AbrirArquivo(p_); }},
         {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [this] { SalvarArquivo(p_); }},
-        {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"), [] {}},
+        {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"),
+         [this] { mostraRelBanco(p_, this); }},
         {Imagem::Novo, QString(), nullptr},
         {Imagem::MegaSena, QStringLiteral("Seleciona Mega-Sena"), [this] { trocaJogo(jogos()[0].nome); }},
         {Imagem::DuplaSena, QStringLiteral("Seleciona Dupla Sena"), [this] { trocaJogo(jogos()[1].nome); }},
@@ -302,8 +306,9 @@ void Sorvelo::montaQuadroBanco() {
     liga(limpaBanco, &QPushButton::clicked, [this] { BtnLimparBanco(p_); });
     poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar", 120, 4020, 2535,
         375);
-    poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
-        2415, 375);
+    auto* estatistica = poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_,
+                            "CommandButton2", 2760, 4020, 2415, 375);
+    liga(estatistica, &QPushButton::clicked, [this] { mostraEstatisticas(p_, this); });
     auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
                          4440, 2535, 375);
     liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });
