@@ -1,8 +1,8 @@
 #include "EntraTexto.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 
 namespace sorvelo {
 
@@ -12,7 +12,7 @@ class CaixaSeleciona : public QLineEdit {
 protected:
     void focusInEvent(QFocusEvent* e) override {
         QLineEdit::focusInEvent(e);
-        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+        selectAll();
     }
 };
 } // namespace
@@ -33,6 +33,7 @@ JanelaEntraTexto::JanelaEntraTexto(Programa& p, QWidget* pai)
         b->setDefault(false);
     }
     c_.Carrega();
+    txtTexto_->setFocus();
     liga(txtTexto_, &QLineEdit::textEdited, [this](const QString& t) { c_.tela.TxtTexto.Text = t; });
     liga(ok, &QPushButton::clicked, [this] { c_.BtnOK(); });
     liga(cancelar, &QPushButton::clicked, [this] { c_.BtnCancelar(); });
