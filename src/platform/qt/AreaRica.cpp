@@ -629,6 +629,16 @@ void AreaRica::contextMenuEvent(QContextMenuEvent* e) {
     menu.exec(e->globalPos());
 }
 
+// The caret of an editable area shows only with the focus.
+void AreaRica::focusInEvent(QFocusEvent* e) {
+    QAbstractScrollArea::focusInEvent(e);
+    if (editavel_) viewport()->update();
+}
+void AreaRica::focusOutEvent(QFocusEvent* e) {
+    QAbstractScrollArea::focusOutEvent(e);
+    if (editavel_) viewport()->update();
+}
+
 void AreaRica::changeEvent(QEvent* e) {
     QAbstractScrollArea::changeEvent(e);
     if (e->type() == QEvent::FontChange)
