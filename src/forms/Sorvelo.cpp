@@ -5,10 +5,12 @@
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
-#include "Eliminar.h"
-#include "Filtrar.h"
 #include "Digitacao.h"
+#include "Eliminar.h"
+#include "Estatisticas.h"
+#include "Filtrar.h"
 #include "Protecao.h"
+#include "RelBanco.h"
 #include "SortComb.h"
 #include "Sortear.h"
 #include "core/ArquivoApostas.h"
@@ -206,7 +208,8 @@ void Sorvelo::montaMenus() {
     menuLotoFacil_ = jogo("MenuLotoFacil", 4);
 
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
-    item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"), [] {});
+    item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"),
+         [this] { mostraRelBanco(p_, this); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
@@ -229,7 +232,8 @@ void Sorvelo::montaBarra() {
         {Imagem::Novo, QStringLiteral("Criar novo arquivo de jogos"), [this] { NovoArquivo(p_); }},
         {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [this] { AbrirArquivo(p_); }},
         {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [this] { SalvarArquivo(p_); }},
-        {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"), [] {}},
+        {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"),
+         [this] { mostraRelBanco(p_, this); }},
         {Imagem::Novo, QString(), nullptr},
         {Imagem::MegaSena, QStringLiteral("Seleciona Mega-Sena"), [this] { trocaJogo(jogos()[0].nome); }},
         {Imagem::DuplaSena, QStringLiteral("Seleciona Dupla Sena"), [this] { trocaJogo(jogos()[1].nome); }},
@@ -327,8 +331,9 @@ void Sorvelo::montaQuadroBanco() {
     auto* filtrar = poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar",
                         120, 4020, 2535, 375);
     liga(filtrar, &QPushButton::clicked, [this] { BtnFiltrar(p_, mostraFiltrar(this)); });
-    poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_, "CommandButton2", 2760, 4020,
-        2415, 375);
+    auto* estatistica = poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_,
+                            "CommandButton2", 2760, 4020, 2415, 375);
+    liga(estatistica, &QPushButton::clicked, [this] { mostraEstatisticas(p_, this); });
     auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
                          4440, 2535, 375);
     liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });

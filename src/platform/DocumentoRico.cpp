@@ -65,6 +65,59 @@ void DocumentoRico::acrescenta(const DocumentoRico& outro) {
     mudou();
 }
 
+void DocumentoRico::substitui(int64_t inicio, int64_t fim, QStringView novo, Formato formato) {
+    const int64_t n = texto_.size();
+    inicio = std::clamp<int64_t>(inicio, 0, n);
+    fim = std::clamp<int64_t>(fim, inicio, n);
+    const int64_t delta = int64_t(novo.size()) - (fim - inicio);
+    const int64_t fimNovo = inicio + int64_t(novo.size());
+    try {
+        const uint16_t f = indiceFormato(formato);
+        const bool temResto = fim < n;
+        const uint16_t fResto = temResto ? indiceFormato(formatoEm(fim)) : 0;
+        // Runs: those before the edit, the new text, the rest shifted.
+        std::vector<uint64_t> r;
+        r.reserve(trechos_.size() + 2);
+        const auto poe = [&r](int64_t ini, uint16_t fmt) {
+            while (!r.empty() && int64_t(r.back() >> 16) >= ini)
+                r.pop_back();
+            if (r.empty() || (r.back() & 0xFFFF) != fmt) r.push_back(uint64_t(ini) << 16 | fmt);
+        };
+        for (uint64_t t : trechos_)
+            if (int64_t(t >> 16) < inicio) poe(int64_t(t >> 16), uint16_t(t & 0xFFFF));
+        if (!novo.isEmpty()) poe(inicio, f);
+        if (temResto) poe(fimNovo, fResto);
+        for (uint64_t t : trechos_)
+            if (int64_t(t >> 16) > fim) poe(int64_t(t >> 16) + delta, uint16_t(t & 0xFFFF));
+
+        // Lines: those before the edit stay, those after it move by delta,
+        // the lines of the edit are read again.
+        std::vector<int64_t> depois;
+        for (auto it = std::upper_bound(iniciosLinha_.begin(), iniciosLinha_.end(), fim);
+             it != iniciosLinha_.end(); ++it)
+            depois.push_back(*it + delta);
+        texto_.replace(qsizetype(inicio), qsizetype(fim - inicio), novo.toString());
+        trechos_.swap(r);
+        const int64_t k = linhaDa(std::max<int64_t>(0, inicio - 1));
+        iniciosLinha_.resize(size_t(k + 1));
+        const QChar* d = texto_.constData();
+        const int64_t total = texto_.size();
+        for (int64_t i = iniciosLinha_.back(); i < fimNovo; ++i) {
+            const char16_t c = d[i].unicode();
+            if (c == u'\r') {
+                if (i + 1 < total && d[i + 1] == u'\n') continue; // the LF ends the line
+                iniciosLinha_.push_back(i + 1);
+            } else if (c == u'\n') {
+                iniciosLinha_.push_back(i + 1);
+            }
+        }
+        iniciosLinha_.insert(iniciosLinha_.end(), depois.begin(), depois.end());
+    } catch (const std::bad_alloc&) {
+        throw FalhaExecucao(erro::MemoriaInsuficiente);
+    }
+    mudou();
+}
+
 void DocumentoRico::indexaLinhas(int64_t desde) {
     // A CR at the end of the previous text followed by a LF now: the line
     // start recorded after the CR moves past the LF.

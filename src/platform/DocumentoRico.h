@@ -52,6 +52,9 @@ public:
     void acrescenta(QStringView pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
     // Appends another document at the end, keeping its runs.
     void acrescenta(const DocumentoRico& outro);
+    // Replaces the characters inicio to fim - 1 by `novo` in the given
+    // format (a person's edit): only the lines of the edit are read again.
+    void substitui(int64_t inicio, int64_t fim, QStringView novo, Formato formato);
 
     // Runs of equal format, in order, covering the text.
     std::vector<Trecho> trechos() const;

@@ -266,6 +266,12 @@ void AreaRica::paintEvent(QPaintEvent* e) {
     qreal maisLarga = 0;
     for (int64_t l = std::max<int64_t>(0, de); l < std::min(n, ate + 1); ++l)
         maisLarga = std::max(maisLarga, pintaLinha(p, l, qreal(l - primeira) * alturaLinha_, selIni, selFim));
+    if (editavel_ && hasFocus() && ancora_ == posicao_) {
+        const int64_t l = doc_->linhaDa(std::min(posicao_, comprimento));
+        const qreal x = Margem - horizontalScrollBar()->value() + xDaPosicao(std::min(posicao_, comprimento));
+        const qreal y = qreal(l - primeira) * alturaLinha_;
+        p.fillRect(QRectF(x, y, 1, alturaLinha_), palette().color(QPalette::Text));
+    }
     // A line wider than the estimate widens the horizontal range, after
     // this paint (the bar may appear and resize the viewport).
     if (larguraInteira(maisLarga) > larguraConteudo_) {
@@ -391,7 +397,170 @@ void AreaRica::mouseDoubleClickEvent(QMouseEvent* e) {
     e->accept();
 }
 
+void AreaRica::defineEditavel(bool editavel) {
+    editavel_ = editavel;
+    setAttribute(Qt::WA_InputMethodEnabled, editavel);
+    viewport()->update();
+}
+
+void AreaRica::defineCursor(int64_t posicao, bool estender) {
+    posicao_ = std::clamp<int64_t>(posicao, 0, comprimentoDoc());
+    if (!estender) ancora_ = posicao_;
+    garanteVisivel(posicao_);
+    viewport()->update();
+}
+
+qreal AreaRica::xDaPosicao(int64_t posicao) const {
+    const int64_t ini = doc_->inicioLinha(doc_->linhaDa(posicao));
+    qreal x = 0;
+    for (const Trecho& t : doc_->trechos(ini, posicao))
+        x += largura(t.inicio, t.fim, t.formato.negrito);
+    return x;
+}
+
+void AreaRica::garanteVisivel(int64_t posicao) {
+    if (!documentoVisivel()) return;
+    const int64_t linha = doc_->linhaDa(std::min(posicao, comprimentoDoc()));
+    const int64_t primeira = primeiraLinhaVisivel();
+    const int vis = linhasVisiveis();
+    if (linha < primeira)
+        rolaParaLinha(linha);
+    else if (linha >= primeira + vis)
+        rolaParaLinha(linha - vis + 1);
+    const qreal x = xDaPosicao(std::min(posicao, comprimentoDoc()));
+    QScrollBar* hbar = horizontalScrollBar();
+    const int largura = viewport()->width();
+    if (x + Margem > hbar->value() + largura - 2 * Margem) {
+        if (larguraInteira(x) + 2 * Margem > larguraConteudo_) {
+            larguraConteudo_ = larguraInteira(x) + 2 * Margem;
+            ajustaBarras();
+        }
+        hbar->setValue(int(x) + 3 * Margem - largura);
+    } else if (x < hbar->value()) {
+        hbar->setValue(std::max(0, int(x) - Margem));
+    }
+}
+
+void AreaRica::aposEdicao(int64_t posicao) {
+    versaoVista_ = doc_->versao();
+    geracaoVista_ = doc_->geracao();
+    comprimentoVisto_ = doc_->comprimento();
+    escondidoVisto_ = false;
+    nuncaVisto_ = false;
+    varreLinhas(std::min(linhasVarridas_, doc_->linhaDa(posicao)));
+    ancora_ = posicao_ = posicao;
+    ajustaBarras();
+    garanteVisivel(posicao);
+    viewport()->update();
+}
+
+void AreaRica::insereTexto(const QString& texto) {
+    if (!editavel_ || !documentoVisivel()) return;
+    const int64_t n = comprimentoDoc();
+    const int64_t ini = std::min(inicioSelecao(), n), fim = std::min(fimSelecao(), n);
+    const Formato f = ini > 0 ? doc_->formatoEm(ini - 1) : (n > 0 ? doc_->formatoEm(0) : doc_->formatoPadrao);
+    doc_->substitui(ini, fim, texto, f);
+    aposEdicao(ini + texto.size());
+}
+
+void AreaRica::apaga(bool paraTras) {
+    if (!editavel_ || !documentoVisivel()) return;
+    const int64_t n = comprimentoDoc();
+    int64_t ini = std::min(inicioSelecao(), n), fim = std::min(fimSelecao(), n);
+    if (ini == fim) {
+        const QString& t = doc_->texto();
+        if (paraTras) {
+            if (ini == 0) return;
+            --ini;
+            if (ini > 0 && ((t[qsizetype(ini)] == u'\n' && t[qsizetype(ini - 1)] == u'\r') ||
+                            t[qsizetype(ini)].isLowSurrogate()))
+                --ini;
+        } else {
+            if (fim >= n) return;
+            ++fim;
+            if (fim < n && ((t[qsizetype(fim - 1)] == u'\r' && t[qsizetype(fim)] == u'\n') ||
+                            t[qsizetype(fim)].isLowSurrogate()))
+                ++fim;
+        }
+    }
+    doc_->substitui(ini, fim, QString(), doc_->formatoPadrao);
+    aposEdicao(ini);
+}
+
+void AreaRica::recorta() {
+    if (!editavel_ || ancora_ == posicao_) return;
+    copia();
+    apaga(true);
+}
+
+void AreaRica::cola() {
+    if (!editavel_) return;
+    QString t = QGuiApplication::clipboard()->text();
+    t.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    t.replace(u'\r', u'\n');
+    t.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
+    if (!t.isEmpty()) insereTexto(t);
+}
+
+bool AreaRica::teclaDeEdicao(QKeyEvent* e) {
+    if (!editavel_ || !documentoVisivel()) return false;
+    const bool estender = e->modifiers() & Qt::ShiftModifier;
+    const int64_t n = comprimentoDoc();
+    const int64_t linha = doc_->linhaDa(std::min(posicao_, n));
+    if (e == QKeySequence::Paste) {
+        cola();
+    } else if (e == QKeySequence::Cut) {
+        recorta();
+    } else {
+        switch (e->key()) {
+        case Qt::Key_Backspace:
+            apaga(true);
+            break;
+        case Qt::Key_Delete:
+            apaga(false);
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            insereTexto(QStringLiteral("\r\n"));
+            break;
+        case Qt::Key_Left:
+            defineCursor(ancora_ != posicao_ && !estender ? inicioSelecao()
+                                                          : std::max<int64_t>(0, posicao_ - 1),
+                         estender);
+            break;
+        case Qt::Key_Right:
+            defineCursor(ancora_ != posicao_ && !estender ? fimSelecao() : std::min(n, posicao_ + 1),
+                         estender);
+            break;
+        case Qt::Key_Up:
+        case Qt::Key_Down: {
+            const int64_t outra = linha + (e->key() == Qt::Key_Up ? -1 : 1);
+            if (outra >= 0 && outra < doc_->quantLinhas())
+                defineCursor(caractereNaLinha(outra, xDaPosicao(std::min(posicao_, n))), estender);
+            break;
+        }
+        case Qt::Key_Home:
+            defineCursor(e->modifiers() & Qt::ControlModifier ? 0 : doc_->inicioLinha(linha), estender);
+            break;
+        case Qt::Key_End:
+            defineCursor(e->modifiers() & Qt::ControlModifier
+                             ? n
+                             : doc_->inicioLinha(linha) + doc_->comprimentoLinha(linha),
+                         estender);
+            break;
+        default: {
+            const QString t = e->text();
+            if (t.isEmpty() || !t[0].isPrint() || (e->modifiers() & Qt::ControlModifier)) return false;
+            insereTexto(t);
+        }
+        }
+    }
+    e->accept();
+    return true;
+}
+
 void AreaRica::keyPressEvent(QKeyEvent* e) {
+    if (teclaDeEdicao(e)) return;
     QScrollBar* vbar = verticalScrollBar();
     QScrollBar* hbar = horizontalScrollBar();
     if (e == QKeySequence::SelectAll)
@@ -436,7 +605,8 @@ void AreaRica::keyPressEvent(QKeyEvent* e) {
 bool AreaRica::event(QEvent* e) {
     if (e->type() == QEvent::ShortcutOverride) {
         auto* k = static_cast<QKeyEvent*>(e);
-        if (k == QKeySequence::Copy || k == QKeySequence::SelectAll) {
+        if (k == QKeySequence::Copy || k == QKeySequence::SelectAll ||
+            (editavel_ && (k == QKeySequence::Paste || k == QKeySequence::Cut))) {
             e->accept();
             return true;
         }
@@ -448,9 +618,25 @@ void AreaRica::contextMenuEvent(QContextMenuEvent* e) {
     QMenu menu(this);
     QAction* copiar = menu.addAction(QStringLiteral("Copiar"), this, &AreaRica::copia);
     copiar->setEnabled(documentoVisivel() && !textoSelecionado().isEmpty());
+    if (editavel_) {
+        QAction* recortar = menu.addAction(QStringLiteral("Recortar"), this, &AreaRica::recorta);
+        recortar->setEnabled(documentoVisivel() && !textoSelecionado().isEmpty());
+        QAction* colar = menu.addAction(QStringLiteral("Colar"), this, &AreaRica::cola);
+        colar->setEnabled(documentoVisivel() && !QGuiApplication::clipboard()->text().isEmpty());
+    }
     QAction* tudo = menu.addAction(QStringLiteral("Selecionar tudo"), this, &AreaRica::selecionaTudo);
     tudo->setEnabled(documentoVisivel() && comprimentoDoc() > 0);
     menu.exec(e->globalPos());
+}
+
+// The caret of an editable area shows only with the focus.
+void AreaRica::focusInEvent(QFocusEvent* e) {
+    QAbstractScrollArea::focusInEvent(e);
+    if (editavel_) viewport()->update();
+}
+void AreaRica::focusOutEvent(QFocusEvent* e) {
+    QAbstractScrollArea::focusOutEvent(e);
+    if (editavel_) viewport()->update();
 }
 
 void AreaRica::changeEvent(QEvent* e) {

@@ -1,7 +1,9 @@
 // The view of a rich-text document (the bet bank, the listings): paints only
 // the lines in sight, straight from the compact model, so that a bank of
 // millions of coloured lines opens and scrolls at once. Read-only for the
-// user, with a mouse selection, copy and select-all.
+// user by default, with a mouse selection, copy and select-all; an editable
+// area takes typing, deletion, cut and paste at a caret, in the format of
+// the text before it.
 #pragma once
 
 #include "../DocumentoRico.h"
@@ -39,6 +41,17 @@ public:
 
     void selecionaTudo();
     void copia();
+
+    void defineEditavel(bool editavel);
+    bool editavel() const { return editavel_; }
+    // The caret (the moving end of the selection).
+    int64_t cursor() const { return posicao_; }
+    // Puts the caret at a position; `estender` keeps the other end.
+    void defineCursor(int64_t posicao, bool estender = false);
+    // Replaces the selection by `texto` (an editable area only).
+    void insereTexto(const QString& texto);
+    void recorta();
+    void cola();
     // Shows line `linha` at the top of the view (as far as the end allows).
     void rolaParaLinha(int64_t linha);
     void rolaParaFim();
@@ -54,6 +67,8 @@ protected:
     void keyPressEvent(QKeyEvent* e) override;
     void contextMenuEvent(QContextMenuEvent* e) override;
     void changeEvent(QEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
     bool event(QEvent* e) override;
 
 private:
@@ -71,6 +86,13 @@ private:
     qreal pintaLinha(QPainter& p, int64_t linha, qreal y, int64_t selIni, int64_t selFim);
     void estendeSelecaoPara(QPoint ponto);
     void copiaParaSelecaoDoSistema();
+    // Editing keys; false when the key isn't one.
+    bool teclaDeEdicao(QKeyEvent* e);
+    void apaga(bool paraTras);
+    // After an edit of the document: the view takes it in without a rewrite.
+    void aposEdicao(int64_t posicao);
+    qreal xDaPosicao(int64_t posicao) const;
+    void garanteVisivel(int64_t posicao);
 
     DocumentoRico* doc_ = nullptr;
     QFont fonteNegrito_;
@@ -93,6 +115,7 @@ private:
     // Selection: the fixed end and the moving end, as text positions.
     int64_t ancora_ = 0, posicao_ = 0;
     bool arrastando_ = false;
+    bool editavel_ = false;
 };
 
 } // namespace sorvelo

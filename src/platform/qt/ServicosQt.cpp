@@ -6,12 +6,18 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QGlyphRun>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QPushButton>
+#include <QRawFont>
+#include <QStandardPaths>
 #include <QTranslator>
 #include <QUrl>
 
@@ -94,43 +100,139 @@ struct ImpressoraQt::Trabalho {
     QPrinter impressora;
     QPainter pintor;
     QFont fonte{QStringLiteral("Arial"), 10};
+    QString pdf; // the file of a job sent to no printer
     int y = 0;
 };
 
-ImpressoraQt::ImpressoraQt() = default;
+namespace {
+// "Listagem do banco de apostas 2026-11-22 14-05-09.pdf", in the folder,
+// with " (2)" and up when the name is taken.
+QString nomePdf(const QString& pasta, const QString& janela) {
+    QString base = janela.isEmpty() ? QStringLiteral("Sorvelo") : janela;
+    static const QString proibidos = QStringLiteral("/\\:*?\"<>|");
+    for (QChar& c : base)
+        if (proibidos.contains(c)) c = u'-';
+    base += u' ' + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH-mm-ss"));
+    const QDir dir(pasta);
+    QString nome = dir.filePath(base + QStringLiteral(".pdf"));
+    for (int n = 2; QFileInfo::exists(nome); ++n)
+        nome = dir.filePath(base + QStringLiteral(" (%1).pdf").arg(n));
+    return nome;
+}
+} // namespace
+
+namespace {
+// One line of plain text at the baseline y. Its characters go straight to
+// the font's glyphs, with their advances, when the font has them all (the
+// listing of a large bank is hundreds of thousands of lines); otherwise the
+// text is laid out in full.
+void desenhaLinha(QPainter& pintor, const QRawFont& fonte, QStringView linha, int y) {
+    if (linha.isEmpty()) return;
+    if (fonte.isValid()) {
+        QList<quint32> glifos(linha.size());
+        int quant = int(linha.size());
+        if (fonte.glyphIndexesForChars(linha.constData(), int(linha.size()), glifos.data(), &quant) &&
+            std::find(glifos.begin(), glifos.begin() + quant, 0u) == glifos.begin() + quant) {
+            glifos.resize(quant);
+            QList<QPointF> avancos(quant);
+            fonte.advancesForGlyphIndexes(glifos.constData(), avancos.data(), quant);
+            QList<QPointF> posicoes(quant);
+            qreal x = 0;
+            for (int i = 0; i < quant; ++i) {
+                posicoes[i] = QPointF(x, 0);
+                x += avancos[i].x();
+            }
+            QGlyphRun corrida;
+            corrida.setRawFont(fonte);
+            corrida.setGlyphIndexes(glifos);
+            corrida.setPositions(posicoes);
+            pintor.drawGlyphRun(QPointF(0, y), corrida);
+            return;
+        }
+    }
+    pintor.drawText(0, y, linha.toString());
+}
+} // namespace
+
+ImpressoraQt::ImpressoraQt()
+    : impressoraPadrao([] { return QPrinterInfo::defaultPrinterName(); }),
+      pastaDocumentos([] { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }) {}
+
 ImpressoraQt::~ImpressoraQt() {
     delete t_;
 }
 
+void ImpressoraQt::comeca() {
+    if (!t_) t_ = new Trabalho;
+    if (t_->pintor.isActive()) return;
+    const QString nome = impressoraPadrao ? impressoraPadrao() : QString();
+    if (nome.isEmpty()) {
+        const QString pasta = pastaDocumentos ? pastaDocumentos() : QString();
+        QDir().mkpath(pasta);
+        QWidget* janela = janelaAtiva();
+        t_->pdf = nomePdf(pasta, janela ? janela->windowTitle() : QString());
+        t_->impressora.setOutputFormat(QPrinter::PdfFormat);
+        t_->impressora.setOutputFileName(t_->pdf);
+        t_->impressora.setDocName(QFileInfo(t_->pdf).completeBaseName());
+    } else {
+        t_->impressora.setPrinterName(nome);
+    }
+    if (!t_->impressora.isValid() || !t_->pintor.begin(&t_->impressora)) {
+        delete t_;
+        t_ = nullptr;
+        throw FalhaExecucao(erro::Impressora);
+    }
+    t_->y = 0;
+    paginas_ = 1;
+}
+
 void ImpressoraQt::defineFonte(const QString& nome, double tamanho) {
     if (!t_) t_ = new Trabalho;
-    t_->fonte = QFont(nome);
-    t_->fonte.setPointSizeF(tamanho);
+    t_->fonte.setFamily(nome);
+    if (tamanho > 0) t_->fonte.setPointSizeF(tamanho);
 }
 
 void ImpressoraQt::imprime(const QString& texto) {
-    if (!t_) t_ = new Trabalho;
-    if (!t_->pintor.isActive()) {
-        if (!t_->pintor.begin(&t_->impressora)) throw FalhaExecucao(erro::Impressora);
-        t_->y = 0;
-    }
+    comeca();
     t_->pintor.setFont(t_->fonte);
     const QFontMetrics m(t_->fonte, &t_->impressora);
+    const QRawFont fonteCrua = QRawFont::fromFont(QFont(t_->fonte, &t_->impressora));
     const QRect pagina = t_->impressora.pageLayout().paintRectPixels(t_->impressora.resolution());
-    for (const QString& linha : texto.split(QStringLiteral("\r\n"))) {
+    qsizetype inicio = 0;
+    for (;;) {
+        qsizetype fimLinha = inicio;
+        while (fimLinha < texto.size() && texto[fimLinha] != u'\r' && texto[fimLinha] != u'\n')
+            ++fimLinha;
         if (t_->y + m.height() > pagina.height()) {
-            t_->impressora.newPage();
+            if (!t_->impressora.newPage()) throw FalhaExecucao(erro::Impressora);
+            ++paginas_;
             t_->y = 0;
         }
-        t_->pintor.drawText(0, t_->y + m.ascent(), linha);
+        desenhaLinha(t_->pintor, fonteCrua, QStringView(texto).mid(inicio, fimLinha - inicio),
+                     t_->y + m.ascent());
         t_->y += m.height();
+        if (fimLinha >= texto.size()) break;
+        inicio =
+            fimLinha +
+            (texto[fimLinha] == u'\r' && fimLinha + 1 < texto.size() && texto[fimLinha + 1] == u'\n' ? 2 : 1);
     }
 }
 
 void ImpressoraQt::fim() {
-    if (t_ && t_->pintor.isActive()) t_->pintor.end();
+    if (!t_ || !t_->pintor.isActive()) {
+        delete t_;
+        t_ = nullptr;
+        return;
+    }
+    const bool aceito = t_->pintor.end() && t_->impressora.printerState() != QPrinter::Error;
+    const QString pdf = t_->pdf;
     delete t_;
     t_ = nullptr;
+    if (!aceito) throw FalhaExecucao(erro::Impressora);
+    if (!pdf.isEmpty()) {
+        ultimoPdf_ = pdf;
+        if (abridor) abridor->abre(pdf);
+    }
 }
 
 void CedenciaQt::cede() {

@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace sorvelo {
@@ -26,6 +28,11 @@ public:
     static QString filtroQt(const QString& filtro);
 };
 
+// Prints to the system's default printer. Where the system has no printer
+// at all, the job becomes a PDF file in the user's documents folder, named
+// with the active window's caption and the date and time, which the
+// desktop then opens. A printer that refuses the job is failure 482. A font
+// size that is no size (0 or less) keeps the size in use.
 class ImpressoraQt : public Impressora {
 public:
     ImpressoraQt();
@@ -34,9 +41,23 @@ public:
     void imprime(const QString& texto) override;
     void fim() override;
 
+    // The name of the system's default printer; empty when there is none.
+    std::function<QString()> impressoraPadrao;
+    // Where the PDF of a job goes when there is no printer.
+    std::function<QString()> pastaDocumentos;
+    // Opens the PDF when the job ends (nullptr: left alone).
+    Abridor* abridor = nullptr;
+    // The PDF of the last job sent to no printer.
+    const QString& ultimoPdf() const { return ultimoPdf_; }
+    // Pages of the job in hand or of the last one.
+    int paginas() const { return paginas_; }
+
 private:
     struct Trabalho;
+    void comeca();
     Trabalho* t_ = nullptr;
+    QString ultimoPdf_;
+    int paginas_ = 0;
 };
 
 class RelogioSistema : public Relogio {
@@ -78,6 +99,7 @@ struct ServicosQt {
     CedenciaQt cedencia;
     AbridorQt abridor;
     PastaProgramaQt pasta;
+    ServicosQt() { impressora.abridor = &abridor; }
     Servicos servicos() {
         return {&caixa, &dialogo, &impressora, &aleatorio, &relogio, &cedencia, &abridor, &pasta};
     }
