@@ -18,6 +18,16 @@ bool TeclaFechaAjuda(int codigo) {
     return codigo == 13 || codigo == 27;
 }
 
+Help::Help(Programa& p) : RTFHelp(MontaPaginaHelp(p.e.TopicoHelp.valor())) {
+    LblTitulo = RTFHelp.titulo;
+}
+
+bool Help::TeclaComando(int codigo) {
+    if (!TeclaFechaAjuda(codigo)) return false;
+    fechada_ = true;
+    return true;
+}
+
 QString TextoTopico(int indice) {
     static const std::array<const char16_t*, QuantTopicos> textos{
         u"Tutorial do Sorvelo",    u"Combinações",          u"Fechamentos",

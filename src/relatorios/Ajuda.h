@@ -45,6 +45,23 @@ constexpr double TamanhoFonteAjuda = 9.75;
 // A key in the page's command box: Enter (13) and Esc (27) close the page.
 bool TeclaFechaAjuda(int codigo);
 
+// The page form `Help`, as logic: its load reads TopicoHelp and builds the
+// page; a click in the text, Enter or Esc close it.
+class Help {
+public:
+    explicit Help(Programa& p);
+    QString LblTitulo;
+    PaginaMontada RTFHelp;
+    // A click in RTFHelp.
+    void ClicaTexto() { fechada_ = true; }
+    // A key in TxtComando; true when the key is dropped (Enter, Esc).
+    bool TeclaComando(int codigo);
+    bool fechada() const { return fechada_; }
+
+private:
+    bool fechada_ = false;
+};
+
 // The topics form.
 constexpr int QuantTopicos = 8;
 // The text of LblHelp(indice), 0 to 7.

@@ -310,3 +310,40 @@ TEST_F(Topicos, HelpRotinaAbreSuaPagina) {
     EXPECT_EQ(paginas, (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7}));
     EXPECT_EQ(falhaDe([&] { ClicaHelpRotina(p, 8, mostraHelp); }), 340);
 }
+
+// ---- The page form ----
+
+TEST_F(Topicos, APaginaLeTopicoHelpNaCarga) {
+    p.e.TopicoHelp = 2;
+    Help h(p);
+    EXPECT_EQ(h.LblTitulo, QStringLiteral("Sortear apostas pelo computador"));
+    EXPECT_EQ(h.RTFHelp.texto(), MontaPaginaHelp(2).texto());
+    // Read only at the load.
+    p.e.TopicoHelp = 5;
+    EXPECT_EQ(h.LblTitulo, QStringLiteral("Sortear apostas pelo computador"));
+}
+
+TEST_F(Topicos, PaginaForaDoIntervaloFicaVazia) {
+    p.e.TopicoHelp = 9;
+    const Help h(p);
+    EXPECT_TRUE(h.LblTitulo.isEmpty());
+    EXPECT_TRUE(h.RTFHelp.texto().isEmpty());
+}
+
+TEST_F(Topicos, EscEEnterFechamEOutraTeclaNao) {
+    Help h(p);
+    EXPECT_FALSE(h.TeclaComando(65));
+    EXPECT_FALSE(h.TeclaComando(32));
+    EXPECT_FALSE(h.fechada());
+    EXPECT_TRUE(h.TeclaComando(27));
+    EXPECT_TRUE(h.fechada());
+    Help h2(p);
+    EXPECT_TRUE(h2.TeclaComando(13));
+    EXPECT_TRUE(h2.fechada());
+}
+
+TEST_F(Topicos, CliqueNoTextoFechaAPagina) {
+    Help h(p);
+    h.ClicaTexto();
+    EXPECT_TRUE(h.fechada());
+}
