@@ -62,7 +62,7 @@ void JanelaHelp::sincroniza() {
 }
 
 bool JanelaHelp::eventFilter(QObject* alvo, QEvent* e) {
-    if (alvo == rtfHelp_->viewport() && e->type() == QEvent::MouseButtonPress) {
+    if ((alvo == rtfHelp_->viewport() || alvo == rtfHelp_) && e->type() == QEvent::MouseButtonPress) {
         h_.ClicaTexto();
         sincroniza();
         return true;
