@@ -27,6 +27,7 @@ JanelaHelp::JanelaHelp(Programa& p, QWidget* pai)
     pic->setPalette(amarelo);
     // Keys reach the form through the command box, out of sight.
     txtComando_ = poe(new QLineEdit, pic, "TxtComando", -2000, 0, 300, 285);
+    txtComando_->setProperty("sorvelo_enter_proprio", true);
     QLabel* titulo = escala_.rotulo(pic, QString(), 240, 180, 6720, 375, "LblTitulo");
     QFont fonteTitulo(QString::fromLatin1(FonteAjuda));
     fonteTitulo.setPointSizeF(12);

@@ -1,10 +1,13 @@
 #include "Sorvelo.h"
 
+#include "Ajuda.h"
 #include "Combinacoes.h"
 #include "ConfApostas.h"
 #include "Controles.h"
 #include "Desenhos.h"
+#include "JogoAJogo.h"
 #include "Protecao.h"
+#include "Sobre.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
@@ -12,7 +15,9 @@
 #include "core/Principal.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
+#include "relatorios/Sobre.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -104,6 +109,30 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
 Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
     delete janelaConf_.data();
+    delete janelaJogo_.data();
+}
+
+void Sorvelo::mostraHelp() {
+    // Over the topics when they are open.
+    QWidget* pai = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this;
+    JanelaHelp(p_, pai).mostraModal();
+}
+
+void Sorvelo::mostraTopicos() {
+    JanelaTopicos(
+        p_, [this] { mostraHelp(); }, this)
+        .mostraModal();
+}
+
+void Sorvelo::mostraJogoAJogo() {
+    // An open view comes to the front as it stands.
+    if (janelaJogo_) {
+        janelaJogo_->raise();
+        janelaJogo_->activateWindow();
+        return;
+    }
+    janelaJogo_ = new JanelaJogoAJogo(p_, this);
+    janelaJogo_->mostra();
 }
 
 template <typename F> void Sorvelo::age(F f) {
@@ -188,10 +217,11 @@ void Sorvelo::montaMenus() {
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
     item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"), [] {});
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
-    item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
+    item(internet, "MenuNovidades", QStringLiteral("Novidades"), [this] { MenuNovidades(p_); });
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
-    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [] {});
-    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"), [] {});
+    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [this] { mostraTopicos(); });
+    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"),
+         [this] { JanelaSobre(p_, this).mostraModal(); });
 }
 
 void Sorvelo::montaBarra() {
@@ -397,7 +427,7 @@ void Sorvelo::montaQuadroOpcoes() {
         poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
     poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar", 2880, 1080, 2415,
         375);
-    Q_UNUSED(jogoAJogo);
+    liga(jogoAJogo, &QPushButton::clicked, [this] { mostraJogoAJogo(); });
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);
     for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),
@@ -433,7 +463,7 @@ void Sorvelo::montaAjuda() {
         f->setToolTip(QStringLiteral("O que é isto?"));
         f->hide();
         helpRotina_[k] = f;
-        liga(f, &Figura::clicked, [this, k] { p_.e.TopicoHelp = Int16(int16_t(k)); });
+        liga(f, &Figura::clicked, [this, k] { ClicaHelpRotina(p_, int(k), [this] { mostraHelp(); }); });
     }
 }
 

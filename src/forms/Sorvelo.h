@@ -28,6 +28,7 @@ namespace sorvelo {
 class AreaRica;
 class ConfApostas;
 class JanelaConfApostas;
+class JanelaJogoAJogo;
 struct JanelasCombinacao;
 class BotaoGiro;
 class CelulaNumero;
@@ -78,6 +79,9 @@ private:
     }
     void trocaJogo(const QString& nome);
     void abreConferencia();
+    void mostraHelp();
+    void mostraTopicos();
+    void mostraJogoAJogo();
     JanelasCombinacao janelasComb();
     void aplicaLayout();
 
@@ -106,6 +110,7 @@ private:
     QTimer* timer1_ = nullptr;
     std::unique_ptr<ConfApostas> conf_;
     QPointer<JanelaConfApostas> janelaConf_;
+    QPointer<JanelaJogoAJogo> janelaJogo_;
     int imagemSort1_ = 0; // the picture PicSort1 shows now
     bool sincronizando_ = false;
     bool fechado_ = false;
