@@ -1,11 +1,15 @@
 // The windows at the program's edge on their own, offscreen: the bet-by-bet
 // view, the help page, the topics and the about box.
+#include "core/ArquivoApostas.h"
+#include "core/ArquivoInicial.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
 #include "forms/Ajuda.h"
+#include "forms/Apresenta.h"
 #include "forms/JogoAJogo.h"
 #include "forms/Sobre.h"
+#include "forms/Sorvelo.h"
 #include "platform/Duplos.h"
 
 #include <QApplication>
@@ -14,6 +18,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTextEdit>
 
 #include <gtest/gtest.h>
@@ -169,4 +174,84 @@ TEST_F(Janelas, SobreMostraSeusTextosEAbreOsEnderecos) {
     EXPECT_TRUE(s.isVisible());
     filho<QPushButton>(&s, "BtnOK")->click();
     EXPECT_FALSE(s.isVisible());
+}
+
+namespace {
+// A program before its main window: the start box's state.
+struct Inicio : ::testing::Test {
+    ServicosDuplos duplos;
+    Programa p;
+    Inicio() { p.s = duplos.servicos(); }
+};
+} // namespace
+
+TEST_F(Inicio, ApresentaEntrarAbreAPrincipalEFecha) {
+    JanelaApresenta a(p);
+    a.show();
+    EXPECT_EQ(a.windowTitle(), QStringLiteral("Sorvelo"));
+    for (const char* nome : {"Image1", "Image2", "Image3"})
+        EXPECT_FALSE(a.findChild<QLabel*>(QString::fromLatin1(nome))->pixmap().isNull()) << nome;
+    int encerrado = 0, aberta = 0;
+    QObject::connect(&a, &JanelaApresenta::encerrado, [&] { ++encerrado; });
+    QObject::connect(&a, &JanelaApresenta::principalAberta, [&] { ++aberta; });
+    EXPECT_EQ(a.principal(), nullptr);
+    a.findChild<QPushButton*>(QStringLiteral("BtnEntrar"))->click();
+    ASSERT_NE(a.principal(), nullptr);
+    EXPECT_TRUE(a.principal()->isVisible());
+    EXPECT_FALSE(a.isVisible());
+    EXPECT_EQ(aberta, 1);
+    EXPECT_EQ(encerrado, 0);
+    // The main window's load ran.
+    EXPECT_EQ(p.e.FimLinha, QStringLiteral("\r\n"));
+    EXPECT_EQ(p.tela.TxtLoteria.Text, QStringLiteral("Mega-Sena"));
+    EXPECT_TRUE(duplos.caixa.vistas().empty());
+}
+
+TEST_F(Inicio, ApresentaFechadaPelaMolduraEncerraSemPrincipal) {
+    JanelaApresenta a(p);
+    a.show();
+    int encerrado = 0;
+    QObject::connect(&a, &JanelaApresenta::encerrado, [&] { ++encerrado; });
+    // Esc does nothing: the box has no cancel.
+    QKeyEvent esc(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&a, &esc);
+    EXPECT_TRUE(a.isVisible());
+    a.close();
+    EXPECT_EQ(encerrado, 1);
+    EXPECT_EQ(a.principal(), nullptr);
+}
+
+TEST_F(Inicio, ArquivoDaLinhaDeComandoAbreDepoisDeEntrar) {
+    QTemporaryDir pasta;
+    const QString nome = pasta.filePath(QStringLiteral("jogos.Apo"));
+    {
+        ServicosDuplos d;
+        Programa q;
+        q.s = d.servicos();
+        CarregaPrincipal(q);
+        for (int c : {0, 1, 2, 3, 4, 5})
+            ClicaNumero(q, Int16(int16_t(c)));
+        InsereApostaMarcada(q);
+        GravaArquivo(q, nome);
+    }
+    JanelaApresenta a(p, nome);
+    a.show();
+    EXPECT_EQ(p.e.QuantBan, 0);
+    a.entra();
+    EXPECT_EQ(p.e.QuantBan, 1);
+    EXPECT_EQ(a.principal()->windowTitle(), QStringLiteral("Sorvelo - ") + nome);
+    EXPECT_TRUE(duplos.dialogo.pedidos().empty());
+}
+
+TEST_F(Inicio, ArquivoQueNaoExisteAvisaDepoisDeEntrar) {
+    QTemporaryDir pasta;
+    const QString nome = pasta.filePath(QStringLiteral("sumiu.Apo"));
+    JanelaApresenta a(p, nome);
+    a.show();
+    a.entra();
+    ASSERT_EQ(duplos.caixa.vistas().size(), 1u);
+    EXPECT_EQ(duplos.caixa.vistas()[0].texto, AvisoArquivoInexistente(nome));
+    EXPECT_FALSE(QFileInfo::exists(nome));
+    EXPECT_EQ(a.principal()->windowTitle(), QStringLiteral("Sor Velo"));
+    EXPECT_TRUE(a.principal()->isVisible());
 }
