@@ -34,19 +34,20 @@ JanelaApresenta::~JanelaApresenta() = default;
 void JanelaApresenta::entra() {
     // The two steps ignore their failures.
     try {
-        if (!principal_) {
+        if (!janela_) {
             principal_ = std::make_unique<Sorvelo>(p_);
-            principal_->show();
-            emit principalAberta(principal_.get());
+            janela_ = principal_.get();
+            janela_->show();
+            emit principalAberta(janela_);
         }
     } catch (const std::exception&) {
     }
     entrou_ = true;
     close();
-    if (!principal_ || arquivo_.isEmpty()) return;
+    if (!janela_ || arquivo_.isEmpty()) return;
     const QString arquivo = std::exchange(arquivo_, QString());
     executaProtegido([&] { AbreArquivoInicial(p_, arquivo); });
-    principal_->sincroniza();
+    janela_->sincroniza();
 }
 
 void JanelaApresenta::closeEvent(QCloseEvent* e) {

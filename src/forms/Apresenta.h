@@ -20,7 +20,9 @@ public:
     ~JanelaApresenta() override;
 
     // The main window, once "Entrar" has made it.
-    Sorvelo* principal() const { return principal_.get(); }
+    Sorvelo* principal() const { return janela_; }
+    // Hands the main window over to whoever keeps it from now on.
+    std::unique_ptr<Sorvelo> tomaPrincipal() { return std::move(principal_); }
     // BtnEntrar.
     void entra();
 
@@ -38,6 +40,7 @@ protected:
 private:
     QString arquivo_;
     std::unique_ptr<Sorvelo> principal_;
+    Sorvelo* janela_ = nullptr;
     bool entrou_ = false;
 };
 

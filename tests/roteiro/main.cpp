@@ -38,6 +38,9 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
                                (antes do primeiro `relogio`: 22/11/2026 14:05:09)
   pasta "caminho"              a pasta do programa, antes de todas as outras linhas
                                (sem ela, uma pasta temporária vazia)
+  inicia Apresenta ["arquivo"] o programa começa pela caixa de apresentação, como de fato
+                               começa (sem ela, já na janela principal), com o arquivo de
+                               apostas da linha de comando, se houver; antes das outras linhas
   espera MS                    o tempo corre MS milissegundos para os temporizadores
   mostra C                     o texto de um controle ou de uma variável compartilhada
                                (QuantBan, Historico, VetBan, VetDezenas(3), ...); Foco dá o
