@@ -4,7 +4,7 @@
 set -euo pipefail
 
 pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n libgtest-dev libbenchmark-dev
-         fonts-liberation2 poppler-utils "$@")
+         fonts-liberation2 poppler-utils desktop-file-utils "$@")
 
 faltam=()
 for p in "${pacotes[@]}"; do

@@ -281,12 +281,16 @@ void GravaArquivo(Programa& p, const QString& Nome) {
 }
 
 void AbrirArquivo(Programa& p) {
-    auto& e = p.e;
-    auto& t = p.tela;
     if (!LimpaBancoApostas(p)) return;
     LimpaNumeros(p);
     const QString nome = p.s.dialogo->abrir(TituloAbrir, Filtro);
     if (nome.isEmpty()) return;
+    LeArquivo(p, nome);
+}
+
+void LeArquivo(Programa& p, const QString& nome) {
+    auto& e = p.e;
+    auto& t = p.tela;
     e.NomeArquivo = nome;
     t.Caption = QStringLiteral("Sorvelo - ") + nome;
     e.ArquivoBanco = nome;

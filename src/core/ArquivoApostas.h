@@ -34,6 +34,8 @@ void SalvarArquivoComo(Programa& p);
 void GravaArquivo(Programa& p, const QString& Nome);
 // Abrir: empties the bank, asks for a name, reads the sixteen fields.
 void AbrirArquivo(Programa& p);
+// What Abrir does once it has the name: the caption, then the sixteen fields.
+void LeArquivo(Programa& p, const QString& nome);
 
 QString TextoMarcados(const Programa& p);
 QString TextoFixos(const Programa& p);

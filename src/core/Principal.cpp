@@ -2,6 +2,7 @@
 
 #include "Loteria.h"
 #include "Module1.h"
+#include "SistemaOperacional.h"
 
 #include <QDir>
 
@@ -12,9 +13,8 @@ QString FimLinhaDoSistema(const QString& nomeSistema) {
 }
 
 void CarregaPrincipal(Programa& p) {
-    // This platform has no version query of that family: the name stays
-    // empty, so each line brings its own line end.
-    p.e.FimLinha = FimLinhaDoSistema(QString());
+    // The probe's name, upper-cased; only "WINDOWS XP" drops the line end.
+    p.e.FimLinha = FimLinhaDoSistema(clsOS::doSistema().OS_Name);
     DefineCores(p);
     ConfiguraLoteria(p, QStringLiteral("Mega-Sena"));
     DesmarcaMenus(p);

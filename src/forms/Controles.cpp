@@ -103,6 +103,8 @@ bool FiltroEnter::eventFilter(QObject* alvo, QEvent* e) {
     if (k->key() != Qt::Key_Return && k->key() != Qt::Key_Enter) return false;
     auto* w = qobject_cast<QWidget*>(alvo);
     if (!w || !w->window() || !w->window()->property("sorvelo_forma").toBool()) return false;
+    // A box that takes Enter for itself (the help page's command box).
+    if (w->property("sorvelo_enter_proprio").toBool()) return false;
     // Widgets that are not the focus see the event too (parents); act once.
     if (w != QApplication::focusWidget()) return false;
     QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);

@@ -1,5 +1,6 @@
 #include "Sorvelo.h"
 
+#include "Ajuda.h"
 #include "Combinacoes.h"
 #include "CombinacoesReduz.h"
 #include "ConfApostas.h"
@@ -9,8 +10,10 @@
 #include "Eliminar.h"
 #include "Estatisticas.h"
 #include "Filtrar.h"
+#include "JogoAJogo.h"
 #include "Protecao.h"
 #include "RelBanco.h"
+#include "Sobre.h"
 #include "SortComb.h"
 #include "Sortear.h"
 #include "core/ArquivoApostas.h"
@@ -21,7 +24,9 @@
 #include "edicao/Sortear.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
+#include "relatorios/Sobre.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -113,6 +118,30 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
 Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
     delete janelaConf_.data();
+    delete janelaJogo_.data();
+}
+
+void Sorvelo::mostraHelp() {
+    // Over the topics when they are open.
+    QWidget* pai = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this;
+    JanelaHelp(p_, pai).mostraModal();
+}
+
+void Sorvelo::mostraTopicos() {
+    JanelaTopicos(
+        p_, [this] { mostraHelp(); }, this)
+        .mostraModal();
+}
+
+void Sorvelo::mostraJogoAJogo() {
+    // An open view comes to the front as it stands.
+    if (janelaJogo_) {
+        janelaJogo_->raise();
+        janelaJogo_->activateWindow();
+        return;
+    }
+    janelaJogo_ = new JanelaJogoAJogo(p_, this);
+    janelaJogo_->mostra();
 }
 
 template <typename F> void Sorvelo::age(F f) {
@@ -211,10 +240,11 @@ void Sorvelo::montaMenus() {
     item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"),
          [this] { mostraRelBanco(p_, this); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
-    item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
+    item(internet, "MenuNovidades", QStringLiteral("Novidades"), [this] { MenuNovidades(p_); });
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
-    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [] {});
-    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"), [] {});
+    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [this] { mostraTopicos(); });
+    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"),
+         [this] { JanelaSobre(p_, this).mostraModal(); });
 }
 
 void Sorvelo::montaBarra() {
@@ -426,13 +456,13 @@ void Sorvelo::montaQuadroOpcoes() {
     auto* eliminar = poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar",
                          2880, 1080, 2415, 375);
     liga(eliminar, &QPushButton::clicked, [this] { BtnEliminar(p_, mostraEliminar(this)); });
-    Q_UNUSED(jogoAJogo);
     liga(sortear, &QPushButton::clicked, [this] {
         BtnSortear(p_);
         JanelaSortear janela(p_, this);
         janela.mostraModal();
     });
     liga(digitar, &QPushButton::clicked, [this] { abreDigitacao(); });
+    liga(jogoAJogo, &QPushButton::clicked, [this] { mostraJogoAJogo(); });
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);
     for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),
@@ -468,7 +498,7 @@ void Sorvelo::montaAjuda() {
         f->setToolTip(QStringLiteral("O que é isto?"));
         f->hide();
         helpRotina_[k] = f;
-        liga(f, &Figura::clicked, [this, k] { p_.e.TopicoHelp = Int16(int16_t(k)); });
+        liga(f, &Figura::clicked, [this, k] { ClicaHelpRotina(p_, int(k), [this] { mostraHelp(); }); });
     }
 }
 

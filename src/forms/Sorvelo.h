@@ -29,6 +29,7 @@ class AreaRica;
 class ConfApostas;
 class JanelaConfApostas;
 class JanelaDigitacao;
+class JanelaJogoAJogo;
 struct JanelasCombinacao;
 class BotaoGiro;
 class CelulaNumero;
@@ -80,6 +81,9 @@ private:
     void trocaJogo(const QString& nome);
     void abreConferencia();
     void abreDigitacao();
+    void mostraHelp();
+    void mostraTopicos();
+    void mostraJogoAJogo();
     JanelasCombinacao janelasComb();
     void aplicaLayout();
 
@@ -109,6 +113,7 @@ private:
     std::unique_ptr<ConfApostas> conf_;
     QPointer<JanelaConfApostas> janelaConf_;
     QPointer<JanelaDigitacao> janelaDigitacao_;
+    QPointer<JanelaJogoAJogo> janelaJogo_;
     int imagemSort1_ = 0; // the picture PicSort1 shows now
     bool sincronizando_ = false;
     bool fechado_ = false;

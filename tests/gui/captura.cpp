@@ -2,13 +2,19 @@
 // for looking at the layout:
 //   captura SAIDA.png [cells to mark...]   the main window (a bet of the marks)
 //   captura --dialogos PASTA               also Combinações and Conferência de apostas
+//   captura --tutorial PASTA               the pictures of the tutorial: the dialogs above and
+//                                          the start box, the bet-by-bet view, the help and the topics
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
+#include "forms/Ajuda.h"
+#include "forms/Apresenta.h"
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
 #include "forms/Digitacao.h"
 #include "forms/SortComb.h"
+#include "forms/JogoAJogo.h"
+#include "forms/Sobre.h"
 #include "forms/Sorvelo.h"
 #include "platform/Duplos.h"
 
@@ -34,6 +40,28 @@ void aoAbrir(const QString& arquivo, std::function<void(QWidget*)> depois) {
         }
     });
 }
+// The windows at the program's edge, each as a person first sees it.
+void capturaTutorial(Programa& p, const QDir& pasta) {
+    auto salva = [&](QWidget& w, const char* nome) {
+        w.show();
+        QApplication::processEvents();
+        w.grab().save(pasta.filePath(QString::fromLatin1(nome)));
+        w.close();
+    };
+    JanelaApresenta apresenta(p);
+    salva(apresenta, "apresenta.png");
+    auto* jogo = new JanelaJogoAJogo(p);
+    jogo->mostra();
+    jogo->findChild<QPushButton*>(QStringLiteral("BtnDescer"))->click();
+    salva(*jogo, "jogoajogo.png");
+    JanelaTopicos topicos(p, [] {});
+    salva(topicos, "topicos.png");
+    p.e.TopicoHelp = 0;
+    JanelaHelp ajuda(p);
+    salva(ajuda, "ajuda.png");
+    JanelaSobre sobre(p);
+    salva(sobre, "sobre.png");
+}
 } // namespace
 
 int main(int argc, char** argv) {
@@ -44,7 +72,8 @@ int main(int argc, char** argv) {
     Sorvelo janela(p);
     janela.show();
     const QStringList args = QCoreApplication::arguments().mid(1);
-    if (args.value(0) == QStringLiteral("--dialogos")) {
+    const bool tutorial = args.value(0) == QStringLiteral("--tutorial");
+    if (tutorial || args.value(0) == QStringLiteral("--dialogos")) {
         const QDir pasta(args.value(1, QStringLiteral(".")));
         marca(p, {2, 8, 15, 21, 33, 40, 47, 52});
         janela.sincroniza();
@@ -69,6 +98,7 @@ int main(int argc, char** argv) {
             QApplication::processEvents();
             dig->grab().save(pasta.filePath(QStringLiteral("digitacao.png")));
         }
+        if (tutorial) capturaTutorial(p, pasta);
         return 0;
     }
     for (int i = 1; i < args.size(); ++i)

@@ -4,6 +4,7 @@
 #include "Roteiro.h"
 #include "core/Cp1252.h"
 #include "core/Estado.h"
+#include "forms/Apresenta.h"
 #include "forms/Sorvelo.h"
 
 #include <QAction>
@@ -34,6 +35,7 @@ const Uso usos[] = {
     {"relogio", "relogio \"22/11/2026\" \"14:05:09\""},
     {"pasta", "pasta \"caminho\""},
     {"tabela", "tabela \"Arquivo.sv\" \"texto\""},
+    {"inicia", "inicia Apresenta [\"arquivo\"]"},
     {"espera", "espera MS"},
     {"estado", "estado C"},
     {"confere", "confere C \"texto\""},
@@ -63,7 +65,8 @@ QWidget* Roteiro::formaNoTopo() const {
     if (QWidget* m = QApplication::activeModalWidget(); m && nomesFormas_.contains(m)) return m;
     for (auto it = formas_.rbegin(); it != formas_.rend(); ++it)
         if (*it && (*it)->isVisible()) return *it;
-    return janela_.get();
+    if (janela_) return janela_.get();
+    return apresenta_ && apresenta_->isVisible() ? static_cast<QWidget*>(apresenta_.get()) : nullptr;
 }
 
 QWidget* Roteiro::formaDe(QObject* c) const {
@@ -89,8 +92,8 @@ QObject* Roteiro::controle(const LinhaCenario& l, const QString& nome) {
             return nullptr;
         }
     } else {
-        onde.push_back(formaNoTopo());
-        if (onde.front() != janela_.get()) onde.push_back(janela_.get());
+        if (QWidget* topo = formaNoTopo()) onde.push_back(topo);
+        if (janela_ && (onde.empty() || onde.front() != janela_.get())) onde.push_back(janela_.get());
     }
     for (QWidget* f : onde) {
         if (f->objectName() == nomeControle) return f;
@@ -160,6 +163,8 @@ void Roteiro::executaLinha(const LinhaCenario& l) {
         erro(l.numero, QStringLiteral("nenhuma caixa de mensagem na tela"));
     else if (c == QStringLiteral("pasta"))
         erro(l.numero, QStringLiteral("pasta vem antes de todas as outras linhas"));
+    else if (c == QStringLiteral("inicia"))
+        erro(l.numero, QStringLiteral("inicia vem antes de todas as outras linhas"));
     else if (c == QStringLiteral("na_cedencia"))
         erro(l.numero, QStringLiteral("na_cedencia vem logo depois da linha que age"));
     else
@@ -215,7 +220,7 @@ void Roteiro::cmdMove(const LinhaCenario& l) {
         return erro(l.numero, QStringLiteral("move pede X e Y inteiros, em twips"));
     QWidget* w = widget(l, l.palavras[1].texto);
     if (!w || !acessivel(l, w, false)) return;
-    move(w, QPoint(janela_->tw(x), janela_->tw(y)));
+    move(w, QPoint(tw(x), tw(y)));
 }
 
 void Roteiro::cmdArquivo(const LinhaCenario& l) {
@@ -324,8 +329,8 @@ void Roteiro::cmdMostra(const LinhaCenario& l) {
         anota(nome + u':' + runs);
     } else if (modo == QStringLiteral("posição")) {
         if (QWidget* w = widget(l, nome))
-            anota(QStringLiteral("%1: %2").arg(
-                nome, posicaoControle(w, [this](int px) { return janela_->deTw(px); })));
+            anota(
+                QStringLiteral("%1: %2").arg(nome, posicaoControle(w, [this](int px) { return deTw(px); })));
     } else {
         erro(l.numero, QStringLiteral("a linha se escreve: mostra C, mostra C cores ou mostra C posição"));
     }
@@ -350,7 +355,23 @@ void Roteiro::cmdConfere(const LinhaCenario& l) {
 
 void Roteiro::cmdFecha(const LinhaCenario& l) {
     if (!confereForma(l, "p")) return;
-    janela_->close();
+    // Before "Entrar", the start box is the window to close.
+    if (janela_)
+        janela_->close();
+    else if (apresenta_)
+        apresenta_->close();
+}
+
+bool Roteiro::cmdInicia(const LinhaCenario& l) {
+    const bool comArquivo = l.palavras.size() == 3;
+    if (!confereForma(l, comArquivo ? "ppt" : "pp")) return false;
+    if (l.palavras[1].texto != QStringLiteral("Apresenta")) {
+        erro(l.numero, QStringLiteral("inicia só conhece Apresenta"));
+        return false;
+    }
+    iniciaApresenta_ = true;
+    if (comArquivo) arquivoInicial_ = l.palavras[2].texto;
+    return true;
 }
 
 } // namespace sorvelo::roteiro

@@ -1,5 +1,7 @@
 #include "Roteiro.h"
 
+#include "forms/Apresenta.h"
+
 #include "core/Estado.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
@@ -36,6 +38,7 @@ Roteiro::~Roteiro() {
     if (vigia_.joinable()) vigia_.join();
     qApp->removeEventFilter(this);
     janela_.reset();
+    apresenta_.reset();
     programa_.reset();
     defineTratadorFalha(nullptr);
 }
@@ -47,7 +50,10 @@ int Roteiro::executa() {
     });
     if (!preparaPasta()) return status_;
     qApp->installEventFilter(this);
-    criaJanela();
+    if (iniciaApresenta_)
+        criaApresenta();
+    else
+        criaJanela();
     if (fim_) return status_;
     vigia_ = std::thread([this] { vigia(); });
     esperando_.start();
@@ -58,11 +64,14 @@ int Roteiro::executa() {
     return status_;
 }
 
-// `pasta` lines stand before all others: the folder is the program's from its start.
+// `pasta` lines stand before all others: the folder is the program's from its
+// start; `inicia` comes with them.
 bool Roteiro::preparaPasta() {
     while (proxima_ < linhas_.size() && linhas_[proxima_].erro.isEmpty() &&
-           linhas_[proxima_].comando() == QStringLiteral("pasta")) {
-        if (!cmdPasta(linhas_[proxima_++])) return false;
+           (linhas_[proxima_].comando() == QStringLiteral("pasta") ||
+            linhas_[proxima_].comando() == QStringLiteral("inicia"))) {
+        const LinhaCenario& l = linhas_[proxima_++];
+        if (!(l.comando() == QStringLiteral("pasta") ? cmdPasta(l) : cmdInicia(l))) return false;
     }
     if (servicos_.pasta.caminho().isEmpty()) {
         pastaTemporaria_ = std::make_unique<QTemporaryDir>();
@@ -81,6 +90,34 @@ void Roteiro::criaJanela() {
     janela_->activateWindow();
     QApplication::setActiveWindow(janela_.get());
     tempo_.adota(janela_.get());
+}
+
+void Roteiro::criaApresenta() {
+    programa_ = std::make_unique<Programa>();
+    programa_->s = servicos_.servicos();
+    apresenta_ = std::make_unique<JanelaApresenta>(*programa_, arquivoInicial_);
+    connect(apresenta_.get(), &JanelaApresenta::principalAberta, this, [this](Sorvelo* j) {
+        janela_ = apresenta_->tomaPrincipal();
+        anota(QStringLiteral("forma Sorvelo %1 não modal").arg(aspas(j->windowTitle())));
+        connect(j, &Sorvelo::encerrado, this, &Roteiro::aoEncerrar);
+        if (op_.aoCriarJanela) op_.aoCriarJanela(*j);
+        j->activateWindow();
+        QApplication::setActiveWindow(j);
+        tempo_.adota(j);
+    });
+    // Closed by its frame, the box ends the program.
+    connect(apresenta_.get(), &JanelaApresenta::encerrado, this, &Roteiro::aoEncerrar);
+    apresenta_->show();
+    apresenta_->activateWindow();
+    QApplication::setActiveWindow(apresenta_.get());
+}
+
+int Roteiro::tw(int twips) const {
+    return Escala(janela_.get()).tw(twips);
+}
+
+int Roteiro::deTw(int pixels) const {
+    return Escala(janela_.get()).deTw(pixels);
 }
 
 bool Roteiro::aninhado() const {
@@ -266,7 +303,7 @@ bool Roteiro::eventFilter(QObject* alvo, QEvent* e) {
     const QEvent::Type tipo = e->type();
     if (tipo != QEvent::Show && tipo != QEvent::Hide) return false;
     auto* w = qobject_cast<QWidget*>(alvo);
-    if (!w || !w->isWindow() || w == janela_.get() || !w->property("sorvelo_forma").toBool() ||
+    if (!w || !w->isWindow() || qobject_cast<Sorvelo*>(w) || !w->property("sorvelo_forma").toBool() ||
         e->spontaneous())
         return false;
     const bool anunciada = nomesFormas_.contains(w);

@@ -25,6 +25,7 @@
 #include <vector>
 
 namespace sorvelo {
+class JanelaApresenta;
 class Sorvelo;
 struct Programa;
 } // namespace sorvelo
@@ -112,6 +113,11 @@ private:
     // Writes a super-reduction table (its bytes complemented) into the
     // program's folder.
     void cmdTabela(const LinhaCenario& l);
+    bool cmdInicia(const LinhaCenario& l);
+    void criaApresenta();
+    // Twips to pixels and back, at the screen of the program's windows.
+    int tw(int twips) const;
+    int deTw(int pixels) const;
 
     // Checks the words of a line: 'p' a plain word, 't' a quoted text.
     bool confereForma(const LinhaCenario& l, const char* forma);
@@ -135,6 +141,10 @@ private:
     std::unique_ptr<QTemporaryDir> pastaTemporaria_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Sorvelo> janela_;
+    // `inicia Apresenta`: the start box comes first, and makes the main window.
+    std::unique_ptr<JanelaApresenta> apresenta_;
+    bool iniciaApresenta_ = false;
+    QString arquivoInicial_;
     TempoVirtual tempo_;
     QTimer passo_;
     QElapsedTimer esperando_;

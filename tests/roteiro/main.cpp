@@ -40,6 +40,9 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
                                (sem ela, uma pasta temporária vazia)
   tabela "Arquivo.sv" "texto"  grava o texto na pasta do programa com cada byte complementado,
                                como o programa guarda as tabelas de super-redução
+  inicia Apresenta ["arquivo"] o programa começa pela caixa de apresentação, como de fato
+                               começa (sem ela, já na janela principal), com o arquivo de
+                               apostas da linha de comando, se houver; antes das outras linhas
   espera MS                    o tempo corre MS milissegundos para os temporizadores
   mostra C                     o texto de um controle ou de uma variável compartilhada
                                (QuantBan, Historico, VetBan, VetDezenas(3), ...); Foco dá o
