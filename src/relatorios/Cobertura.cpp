@@ -89,9 +89,9 @@ uint64_t rankColex(Mascara s) {
     return r;
 }
 
-Mascara desfazRankColex(uint64_t rank, int p) {
+Mascara desfazRankColex(uint64_t rank, int p, int n) {
     Mascara s = 0;
-    int e = 63;
+    int e = n - 1;
     for (int i = p; i >= 1; --i) {
         while (binomial(e, i) > rank)
             --e;

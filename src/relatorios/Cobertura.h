@@ -22,8 +22,8 @@ uint64_t binomial(int n, int r);
 // The colex rank of a set of p positions among all p-subsets.
 uint64_t rankColex(Mascara s);
 
-// The set whose colex rank is `rank` among the p-subsets.
-Mascara desfazRankColex(uint64_t rank, int p);
+// The set whose colex rank is `rank` among the p-subsets of n positions.
+Mascara desfazRankColex(uint64_t rank, int p, int n = 64);
 
 // How many p-subsets of n positions meet a row of r positions in t or more.
 uint64_t tamanhoVizinhanca(int n, int r, int p, int t);

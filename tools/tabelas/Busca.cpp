@@ -181,7 +181,7 @@ bool guloso(Estado& e, const ConfigBusca& cfg) {
     while (e.custo() > 0) {
         if (e.linhas().size() >= cfg.limiteLinhas) return false;
         if (cfg.parar && cfg.parar->load()) return false;
-        const Mascara s = desfazRankColex(e.descobertoAoAcaso(), q.p);
+        const Mascara s = desfazRankColex(e.descobertoAoAcaso(), q.p, q.v);
         Mascara melhor = 0;
         uint64_t melhorGanho = 0;
         for (int a = 0; a < amostras; ++a) {
@@ -263,7 +263,7 @@ ResultadoBusca buscaBloco(const ConfigBusca& cfg, const std::vector<Mascara>& in
         ++semSucesso;
         // The move: a row that meets an uncovered subset S in t - 1
         // positions trades one of its other positions for one of S.
-        const Mascara s = desfazRankColex(e.descobertoAoAcaso(), q.p);
+        const Mascara s = desfazRankColex(e.descobertoAoAcaso(), q.p, q.v);
         const auto& ls = e.linhas();
         const size_t n = ls.size();
         size_t escolhida = size_t(e.rng()() % n), vistas = 0;
