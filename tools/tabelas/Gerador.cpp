@@ -99,6 +99,20 @@ void geraTabelas(const OpcoesGeracao& op, const Referencias& ref, Tabelas& tabel
             if (i != tabelas.end() && i->second.linhas.size() <= alvo) continue;
             tarefas.push_back({q, alvo});
         }
+    if (op.piores > 0) {
+        // The blocks farthest above their target first; a missing block first
+        // of all. The distance to a lower bound, which is seldom reached,
+        // counts a quarter of the distance to a best known size.
+        auto razao = [&](const Tarefa& tf) {
+            const auto i = tabelas.find(chaveDe(tf.q));
+            if (i == tabelas.end()) return 1e9;
+            const double r = double(i->second.linhas.size()) / double(tf.alvo);
+            return ref.melhorConhecido(tf.q) ? r : 1 + (r - 1) / 4;
+        };
+        std::stable_sort(tarefas.begin(), tarefas.end(),
+                         [&](const Tarefa& a, const Tarefa& b) { return razao(a) > razao(b); });
+        if (tarefas.size() > op.piores) tarefas.resize(op.piores);
+    }
     std::mutex trava;
     std::atomic<size_t> proxima{0};
     auto ultimaGravacao = std::chrono::steady_clock::now();

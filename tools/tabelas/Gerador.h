@@ -40,6 +40,7 @@ struct OpcoesGeracao {
     int trabalhadores = 2;
     uint64_t semente = 2026;
     std::string filtro; // only keys that contain this text (e.g. "MSC", "QNC07")
+    size_t piores = 0;  // when set, only this many blocks, the farthest above their target
 };
 
 // Searches every block that fits and is above its target (the best known

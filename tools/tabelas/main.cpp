@@ -30,6 +30,8 @@ Opções:
   -j N                  quantos blocos procurar ao mesmo tempo (padrão: 2)
   --semente N           semente das buscas (padrão: 2026)
   --filtro TEXTO        só as chaves que contêm o texto (ex.: MSC, QNC12, LFC25A13)
+  --piores N            só os N blocos mais acima do alvo (o melhor conhecido, ou o limite
+                        inferior onde não há), os que faltam primeiro
   --relatorio ARQUIVO   grava o relatório no arquivo ao fim de "gera"
 
 Para regravar as tabelas do projeto, na raiz:
