@@ -58,6 +58,11 @@ public:
             lugar_[i] = uint32_t(i);
             descobertos_[i] = uint32_t(i);
         }
+        // Rows by their (t-1)-subsets, when a row has few of them: the rows
+        // that meet an uncovered S in t - 1 positions are then found through
+        // the (t-1)-subsets of S instead of a scan of all rows.
+        if (t_ >= 2 && binomial(k_, t_ - 1) <= 56 && binomial(v_, t_ - 1) <= (uint64_t(1) << 21))
+            indice_.resize(size_t(binomial(v_, t_ - 1)));
     }
 
     size_t custo() const { return descobertos_.size(); }
@@ -78,14 +83,38 @@ public:
 
     void insere(Mascara linha) {
         linhas_.push_back(linha);
+        indexa(linhas_.size() - 1, true);
         vizinhanca(linha, [&](uint32_t s) { sobe(s); });
     }
 
     void retira(size_t i) {
         const Mascara linha = linhas_[i];
-        linhas_[i] = linhas_.back();
+        const size_t ultima = linhas_.size() - 1;
+        indexa(i, false);
+        if (i != ultima) {
+            indexa(ultima, false);
+            linhas_[i] = linhas_[ultima];
+            indexa(i, true);
+        }
         linhas_.pop_back();
         vizinhanca(linha, [&](uint32_t s) { desce(s); });
+    }
+
+    // Calls f with the index of every row that meets s in t - 1 positions.
+    template <class F> void encontraEmTMenosUm(Mascara s, F&& f) const {
+        if (indice_.empty()) {
+            for (size_t i = 0; i < linhas_.size(); ++i)
+                if (std::popcount(linhas_[i] & s) == t_ - 1) f(i);
+            return;
+        }
+        // A row that meets s in exactly t - 1 positions holds exactly one
+        // (t-1)-subset of s, so no row comes twice.
+        std::array<int, 64> pos{};
+        const int m = posicoes(s, pos.data());
+        combinacoes(pos.data(), m, t_ - 1, [&](Mascara a) {
+            for (uint32_t i : indice_[size_t(rankColex(a))])
+                if (std::popcount(linhas_[i] & s) == t_ - 1) f(size_t(i));
+        });
     }
 
     // How many uncovered p-subsets the row would cover.
@@ -130,12 +159,30 @@ public:
             desce(perde);
             sobe(ganha);
         });
+        indexa(i, false);
         linhas_[i] = (b & ~(Mascara(1) << x)) | (Mascara(1) << y);
+        indexa(i, true);
     }
 
     uint32_t descobertoAoAcaso() { return descobertos_[size_t(rng_() % descobertos_.size())]; }
 
 private:
+    void indexa(size_t i, bool poe) {
+        if (indice_.empty()) return;
+        std::array<int, 64> pos{};
+        const int m = posicoes(linhas_[i], pos.data());
+        combinacoes(pos.data(), m, t_ - 1, [&](Mascara a) {
+            auto& l = indice_[size_t(rankColex(a))];
+            if (poe) {
+                l.push_back(uint32_t(i));
+            } else {
+                auto it = std::find(l.begin(), l.end(), uint32_t(i));
+                *it = l.back();
+                l.pop_back();
+            }
+        });
+    }
+
     void sobe(uint32_t s) {
         if (cont_[s]++ == 0) {
             const uint32_t l = lugar_[s];
@@ -158,6 +205,7 @@ private:
     std::vector<uint32_t> lugar_;
     std::vector<uint32_t> descobertos_;
     std::vector<Mascara> linhas_;
+    std::vector<std::vector<uint32_t>> indice_;
     std::mt19937_64 rng_;
 };
 
@@ -246,10 +294,10 @@ ResultadoBusca buscaBloco(const ConfigBusca& cfg, const std::vector<Mascara>& in
     std::uniform_real_distribution<double> u(0.0, 1.0);
     // Geometric cooling by epochs; below the floor the temperature goes back
     // up, in units of the mean rise of the cost seen so far.
-    const double T0 = 0.8, TMIN = 0.05, ALFA = 0.9, EP = 20;
+    const double T0 = 0.4, TMIN = 0.05, ALFA = 0.9, EP = 20;
     double temperatura = T0, somaPositiva = 0;
     uint64_t positivos = 0, semSucesso = 0;
-    const uint64_t epoca = std::max<uint64_t>(2000, uint64_t(EP * double(res.linhas.size())));
+    const uint64_t epoca = std::clamp<uint64_t>(uint64_t(EP * double(res.linhas.size())), 2000, 20000);
     while (res.linhas.size() > cfg.alvo && res.linhas.size() > 1) {
         if (e.custo() == 0) {
             if (e.linhas().size() < res.linhas.size()) res.linhas = ordenadas(e.linhas());
@@ -264,12 +312,11 @@ ResultadoBusca buscaBloco(const ConfigBusca& cfg, const std::vector<Mascara>& in
         // The move: a row that meets an uncovered subset S in t - 1
         // positions trades one of its other positions for one of S.
         const Mascara s = desfazRankColex(e.descobertoAoAcaso(), q.p, q.v);
-        const auto& ls = e.linhas();
-        const size_t n = ls.size();
-        size_t escolhida = size_t(e.rng()() % n), vistas = 0;
-        for (size_t a = 0, i = escolhida; a < n; ++a, i = (i + 1 == n ? 0 : i + 1))
-            if (std::popcount(ls[i] & s) == q.t - 1 && e.rng()() % ++vistas == 0) escolhida = i;
-        const Mascara b = ls[escolhida];
+        size_t escolhida = size_t(e.rng()() % e.linhas().size()), vistas = 0;
+        e.encontraEmTMenosUm(s, [&](size_t i) {
+            if (e.rng()() % ++vistas == 0) escolhida = i;
+        });
+        const Mascara b = e.linhas()[escolhida];
         const int x = enesimo(b & ~s, int(e.rng()() % uint64_t(std::popcount(b & ~s))));
         const int y = enesimo(s & ~b, int(e.rng()() % uint64_t(std::popcount(s & ~b))));
         const int64_t d = e.delta(b, x, y);
