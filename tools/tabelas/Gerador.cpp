@@ -38,7 +38,27 @@ uint64_t semente(uint64_t base, const Parametros& q) {
     return h;
 }
 
+// The filter is a list of texts separated by commas; a key passes when it
+// contains one of them (under its own code or, for k = 6, under "DSC").
+bool passaFiltro(const std::string& filtro, const Parametros& q) {
+    if (filtro.empty()) return true;
+    std::stringstream ss(filtro);
+    std::string parte;
+    while (std::getline(ss, parte, ','))
+        if (chave(jogoDe(q.k).codigo, q).find(parte) != std::string::npos ||
+            (q.k == 6 && chave("DSC", q).find(parte) != std::string::npos))
+            return true;
+    return false;
+}
+
 } // namespace
+
+void juntaTabelas(Tabelas& destino, const Tabelas& outras) {
+    for (const auto& [c, b] : outras) {
+        const auto i = destino.find(c);
+        if (i == destino.end() || i->second.linhas.size() > b.linhas.size()) destino[c] = b;
+    }
+}
 
 Tabelas carregaTabelas(const std::string& pasta, std::ostream& log) {
     Tabelas r;
@@ -91,9 +111,7 @@ void geraTabelas(const OpcoesGeracao& op, const Referencias& ref, Tabelas& tabel
     for (int k : {5, 6, 15})
         for (const Parametros& q : blocosDoJogo(jogoDe(k))) {
             if (!cabeNoLimite(q)) continue;
-            if (!op.filtro.empty() && chave(jogoDe(k).codigo, q).find(op.filtro) == std::string::npos &&
-                !(k == 6 && chave("DSC", q).find(op.filtro) != std::string::npos))
-                continue;
+            if (!passaFiltro(op.filtro, q)) continue;
             const uint64_t alvo = std::max(limiteInferior(q), ref.melhorConhecido(q).value_or(0));
             const auto i = tabelas.find(chaveDe(q));
             if (i != tabelas.end() && i->second.linhas.size() <= alvo) continue;

@@ -24,6 +24,9 @@ inline ChaveParametros chaveDe(const Parametros& q) {
 // smallest block that passes the proof. Blocks that fail are reported.
 Tabelas carregaTabelas(const std::string& pasta, std::ostream& log);
 
+// Keeps, for each parameters, the smaller of the two blocks.
+void juntaTabelas(Tabelas& destino, const Tabelas& outras);
+
 // Writes the four files (Mega-Sena and Dupla Sena share the blocks of k = 6).
 void gravaTabelas(const std::string& pasta, const Tabelas& tabelas);
 
@@ -39,7 +42,7 @@ struct OpcoesGeracao {
     uint64_t maxMovimentos = 0;
     int trabalhadores = 2;
     uint64_t semente = 2026;
-    std::string filtro; // only keys that contain this text (e.g. "MSC", "QNC07")
+    std::string filtro; // only keys that contain one of these texts, by commas (e.g. "MSC,QNC07")
     size_t piores = 0;  // when set, only this many blocks, the farthest above their target
 };
 

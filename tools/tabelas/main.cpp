@@ -18,6 +18,7 @@ Comandos:
   gera        procura blocos menores para as tabelas, partindo das que estão na pasta
               (guarda sempre o menor dos dois), prova cada um e regrava os arquivos
   prova       prova cada bloco de cada arquivo da pasta; sai com 1 se algum falhar
+  junta       junta às tabelas da pasta os blocos menores das tabelas de outra (--de PASTA)
   relatorio   mostra, para cada chave, o tamanho, o melhor conhecido, a razão, o limite
               inferior e o tamanho do empacotamento da combinação reduzida
 
@@ -29,7 +30,9 @@ Opções:
   --movimentos N        limite de movimentos por bloco (com a mesma semente, repete o resultado)
   -j N                  quantos blocos procurar ao mesmo tempo (padrão: 2)
   --semente N           semente das buscas (padrão: 2026)
-  --filtro TEXTO        só as chaves que contêm o texto (ex.: MSC, QNC12, LFC25A13)
+  --filtro TEXTOS       só as chaves que contêm um dos textos, separados por vírgulas
+                        (ex.: MSC, QNC12, MSC,QNC2)
+  --de PASTA            a outra pasta de "junta"
   --piores N            só os N blocos mais acima do alvo (o melhor conhecido, ou o limite
                         inferior onde não há), os que faltam primeiro
   --relatorio ARQUIVO   grava o relatório no arquivo ao fim de "gera"
@@ -43,6 +46,7 @@ struct Argumentos {
     OpcoesGeracao op;
     std::string referencias = SORVELO_REFERENCIAS;
     std::string relatorio;
+    std::string de;
     bool ok = true;
 };
 
@@ -114,6 +118,11 @@ int main(int argc, char** argv) {
     Tabelas tabelas = carregaTabelas(a.op.pasta, std::cerr);
     if (a.comando == "relatorio") {
         escreveRelatorio(std::cout, tabelas, ref);
+        return 0;
+    }
+    if (a.comando == "junta" && !a.de.empty()) {
+        juntaTabelas(tabelas, carregaTabelas(a.de, std::cerr));
+        gravaTabelas(a.op.pasta, tabelas);
         return 0;
     }
     if (a.comando != "gera") {
