@@ -51,6 +51,10 @@ ResultadoGarantia verificaGarantia(std::vector<int> marcados, int acertar, int g
     r.garantia = garantia;
     r.apostas = int64_t(apostas.size());
     const int n = int(marcados.size());
+    if (garantia < 1) {
+        r.situacao = ResultadoGarantia::Situacao::SemGarantia;
+        return r;
+    }
     if (n < acertar || acertar < 1 || garantia < 1 || garantia > acertar) {
         r.situacao = ResultadoGarantia::Situacao::PoucosNumeros;
         return r;
@@ -129,6 +133,9 @@ QStringList textoGarantia(const ResultadoGarantia& r) {
         return l;
     case S::GrandeDemais:
         l << QStringLiteral("São combinações demais para verificar: diminua os números escolhidos.");
+        return l;
+    case S::SemGarantia:
+        l << QStringLiteral("Escolha a garantia no quadro Combinações reduzidas.");
         return l;
     case S::SemApostas:
         l << QStringLiteral("O banco de apostas está vazio: nenhum grupo está coberto.");

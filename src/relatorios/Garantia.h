@@ -21,6 +21,7 @@ struct ResultadoGarantia {
         PoucosNumeros, // fewer numbers marked than the number to hit
         GrandeDemais,  // too many groups to count (more than 64 numbers or 2^31 groups)
         SemApostas,    // the bank is empty
+        SemGarantia,   // no guarantee chosen (below 1)
     };
     static constexpr size_t MaxDescobertos = 100;
 
