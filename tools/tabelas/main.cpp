@@ -78,6 +78,10 @@ Argumentos leArgumentos(int argc, char** argv) {
             a.op.semente = std::stoull(v);
         else if (o == "--filtro")
             a.op.filtro = v;
+        else if (o == "--piores")
+            a.op.piores = std::stoull(v);
+        else if (o == "--de")
+            a.de = v;
         else if (o == "--relatorio")
             a.relatorio = v;
         else
