@@ -5,6 +5,7 @@
 #include "Controles.h"
 #include "Desenhos.h"
 #include "Protecao.h"
+#include "VerificaGarantia.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
@@ -187,6 +188,8 @@ void Sorvelo::montaMenus() {
 
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
     item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"), [] {});
+    item(relatorios, "MenuVerificarGarantia", QStringLiteral("Verificar garantia"),
+         [this] { abreVerificaGarantia(p_, this); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [] {});
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));

@@ -1,4 +1,4 @@
-#include "VerificaGarantia.h"
+#include "GarantiaBanco.h"
 
 #include "../core/BancoApostas.h"
 #include "../core/Semantica.h"

@@ -1,5 +1,5 @@
 #include "apoio_conferencia.h"
-#include "relatorios/VerificaGarantia.h"
+#include "relatorios/GarantiaBanco.h"
 
 #include <gtest/gtest.h>
 
