@@ -18,8 +18,10 @@ std::string arquivo(const Jogo& j) {
 
 } // namespace
 
-// Every block that fits the program's limit is in the game's file, is read
-// by the program's reader with exactly its rows, and passes the exact proof.
+// Every block of a file is read by the program's reader with rows of the
+// game's full bet, and passes the exact proof. The blocks of Dupla Sena are
+// those of Mega-Sena under their own keys (the next test), so they are read
+// but not proven twice.
 TEST(TabelasEnviadas, CadaBlocoELidoPeloProgramaECobre) {
     for (const Jogo& j : jogos()) {
         const std::string bytes = arquivo(j);
@@ -35,7 +37,9 @@ TEST(TabelasEnviadas, CadaBlocoELidoPeloProgramaECobre) {
                 ASSERT_EQ(int(l.size()), j.k) << ch;
             const auto mascaras = linhasComoMascaras(*linhas, q.v);
             ASSERT_TRUE(mascaras) << ch;
-            EXPECT_TRUE(provaBloco(Bloco{q, *mascaras})) << ch;
+            if (j.codigo != "DSC") {
+                EXPECT_TRUE(provaBloco(Bloco{q, *mascaras})) << ch;
+            }
         }
         EXPECT_GT(presentes, 0) << j.arquivo;
     }
@@ -53,6 +57,8 @@ TEST(TabelasEnviadas, BlocosQueNaoCabemNoLimiteNaoEstaoNosArquivos) {
     for (const Jogo& j : jogos()) {
         const std::string bytes = arquivo(j);
         for (const Parametros& q : blocosDoJogo(j))
-            if (!cabeNoLimite(q)) EXPECT_FALSE(linhasLidasPeloPrograma(bytes, chave(j.codigo, q)));
+            if (!cabeNoLimite(q)) {
+                EXPECT_FALSE(linhasLidasPeloPrograma(bytes, chave(j.codigo, q)));
+            }
     }
 }
