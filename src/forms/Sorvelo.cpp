@@ -16,6 +16,7 @@
 #include "Sobre.h"
 #include "SortComb.h"
 #include "Sortear.h"
+#include "VerificaGarantia.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
@@ -239,6 +240,8 @@ void Sorvelo::montaMenus() {
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
     item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"),
          [this] { mostraRelBanco(p_, this); });
+    item(relatorios, "MenuVerificarGarantia", QStringLiteral("Verificar garantia"),
+         [this] { abreVerificaGarantia(p_, this); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [this] { MenuNovidades(p_); });
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));

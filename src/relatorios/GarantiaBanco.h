@@ -1,0 +1,48 @@
+// "Verificar garantia" (menu Relatórios) as logic: the numbers marked on the
+// grid (blue), the guarantee and the number to hit of the frame
+// "Combinações reduzidas", and the bank, checked with the exact count of
+// Garantia.h; the listing goes to a rich-text view that "Imprimir" prints.
+#pragma once
+
+#include "../core/Estado.h"
+#include "Garantia.h"
+
+namespace sorvelo {
+
+struct TelaVerificaGarantia {
+    QString Caption = QStringLiteral("Verificar garantia");
+    QString LblTitulo = QStringLiteral("Garantia do banco de apostas");
+    DocumentoRico RTFGarantia;
+    QString BtnImprimir = QStringLiteral("Imprimir");
+    QString BtnFechar = QStringLiteral("Fechar");
+};
+
+// The guarantee of the frame as a number: "Duque" 2 .. "Sena" 6, otherwise
+// the numeric value of the text.
+int garantiaDoQuadro(const QString& texto);
+
+// The numbers marked (blue) on the grid, ascending.
+std::vector<int> numerosMarcados(const Programa& p);
+
+class VerificaGarantia {
+public:
+    explicit VerificaGarantia(Programa& p) : p_(p) {}
+    VerificaGarantia(const VerificaGarantia&) = delete;
+    VerificaGarantia& operator=(const VerificaGarantia&) = delete;
+
+    // Reads the grid, the frame and the bank, counts, and writes the listing.
+    void Carrega();
+    void BtnImprimir();
+    void BtnFechar() { fechada_ = true; }
+    bool fechada() const { return fechada_; }
+    const ResultadoGarantia& resultado() const { return resultado_; }
+
+    TelaVerificaGarantia tela;
+
+private:
+    Programa& p_;
+    ResultadoGarantia resultado_;
+    bool fechada_ = false;
+};
+
+} // namespace sorvelo
