@@ -29,7 +29,7 @@ public:
 
     void InsereVetRes(Int16 k);
     // Writes the bet of a row of VetRes into VetBan at row QuantBan and
-    // gives its text. Each failing step is skipped, as the original did.
+    // gives its text. Each failing step is skipped.
     QString RetAposta(Int32 linha, Int16 k);
     bool ExisteNaLista(Int16 r) const;
 

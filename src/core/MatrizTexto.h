@@ -1,4 +1,4 @@
-// Two-dimensional arrays of text with the bounds semantics of the original
+// Two-dimensional arrays of text with the program's bounds semantics
 // (ReDim clears, ReDim Preserve grows the last dimension keeping contents,
 // an index outside the bounds is failure 9), stored compactly: a cell that is
 // empty, "#" or a two-digit number takes one byte.

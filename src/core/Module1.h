@@ -30,7 +30,7 @@ void ApagaArquivo(const QString& Nome);
 // super-reduction tables alike. The text is one byte a character.
 QByteArray InverteBytes(QByteArray s, const std::function<void()>& cede = {});
 
-// The original's Trim: blanks (spaces) only.
+// The program's Trim: blanks (spaces) only.
 QString apara(const QString& s);
 
 } // namespace sorvelo

@@ -77,7 +77,7 @@ void JanelaConfApostas::showEvent(QShowEvent* e) {
 
 void JanelaConfApostas::resizeEvent(QResizeEvent* e) {
     Formulario::resizeEvent(e);
-    // The window's outer size, as the original measures it.
+    // The window's outer size, as the program measures it.
     const int largura = escala_.deTw(width()) + 120;
     const int altura = escala_.deTw(height()) + 405;
     executaProtegido([&] { c_.Redimensiona(largura, altura); });

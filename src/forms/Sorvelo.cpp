@@ -566,7 +566,7 @@ void Sorvelo::aplicaLayout() {
 void Sorvelo::resizeEvent(QResizeEvent* e) {
     QMainWindow::resizeEvent(e);
     if (!area_ || !barraVert_) return;
-    // The outer size as the original measures it: the work area plus the
+    // The outer size as the program measures it: the work area plus the
     // borders, the title and the menu.
     const int largura = deTw(area_->width()) + 120;
     const int altura = deTw(area_->height()) + 705;

@@ -92,7 +92,7 @@ TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloOriginal) {
     EXPECT_EQ(texto(QStringLiteral("TxtDezAp")), QStringLiteral("06"));
 }
 
-TEST_F(JanelaPrincipal, TodosOsControlesTemONomeDaDescricao) {
+TEST_F(JanelaPrincipal, TodosOsControlesTemSeuNome) {
     const QStringList nomes{
         "BarraSup",      "TxtLoteria",     "BarraVert",       "BarraHoriz",      "PicLoteria",
         "Frame1",        "BtnSeta",        "FraBanco",        "Frame2",          "Frame5",

@@ -238,7 +238,7 @@ void montaCenario(Programa& p, const Cenario& c) {
 }
 
 QString pastaDados() {
-    return QFileInfo(QString::fromUtf8(__FILE__)).absoluteDir().filePath(QStringLiteral("../dados"));
+    return QStringLiteral(SORVELO_DADOS_TESTE);
 }
 
 QString nomeDourado(const Cenario& c) {

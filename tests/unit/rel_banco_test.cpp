@@ -44,7 +44,7 @@ struct Listagem : Ambiente {
     }
 };
 
-// The listing as the description builds it: the whole text rewritten for
+// The listing built the plain way: the whole text rewritten for
 // every cell of every row.
 struct ReferenciaListagem {
     explicit ReferenciaListagem(const Programa& programa) : p(programa) {}
