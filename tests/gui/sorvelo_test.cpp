@@ -79,7 +79,7 @@ protected:
 
 const QColor Azul(0, 0, 200), Vermelho(200, 0, 0), Livre(0, 64, 0);
 
-TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloOriginal) {
+TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloSorVelo) {
     EXPECT_EQ(janela->windowTitle(), QStringLiteral("Sor Velo"));
     EXPECT_EQ(texto(QStringLiteral("TxtLoteria")), QStringLiteral("Mega-Sena"));
     EXPECT_TRUE(acao(QStringLiteral("MenuMegaSena"))->isChecked());

@@ -168,10 +168,10 @@ TEST(Fechamento, ModoFechamentoSoComODialogoAberto) {
     r.iniciar = false;
     JanelasCombinacao j = janelasRoteirizadas(r);
     bool duranteODialogo = false;
-    const auto original = j.mostraCombinacoes;
+    const auto anterior = j.mostraCombinacoes;
     j.mostraCombinacoes = [&](Programa& p) {
         duranteODialogo = p.e.ModoFechamento;
-        original(p);
+        anterior(p);
     };
     BtnFechar(b.p, j);
     EXPECT_TRUE(duranteODialogo);
