@@ -19,24 +19,13 @@ JanelaCombSuperReduz::JanelaCombSuperReduz(Programa& p, QWidget* pai)
     s_.aoMudarMensagem = [this] { lblMensagem_->setText(s_.LblMensagem); };
     s_.aoContar = [this](const QString& t) { lblCont_->setText(t); };
     s_.aoFechar = [this] { done(0); };
+    rodaAoAparecer([this] { s_.ativa(); });
 }
 
 void JanelaCombSuperReduz::sincroniza() {
     lblMensagem_->setText(s_.LblMensagem);
     lblCont_->setText(s_.LblCont);
     lblTotal_->setText(s_.LblTotal);
-}
-
-void JanelaCombSuperReduz::showEvent(QShowEvent* e) {
-    Formulario::showEvent(e);
-    if (agendado_) return;
-    agendado_ = true;
-    // The whole work runs when the dialog first comes to the front, once
-    // its modal loop is running.
-    QTimer::singleShot(0, this, [this] {
-        executaProtegido([this] { s_.ativa(); });
-        sincroniza();
-    });
 }
 
 void JanelaCombSuperReduz::closeEvent(QCloseEvent* e) {

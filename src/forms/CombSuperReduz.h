@@ -15,13 +15,11 @@ public:
     void sincroniza() override;
 
 protected:
-    void showEvent(QShowEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
 private:
     SuperReducao s_;
     QLabel *lblMensagem_, *lblCont_, *lblTotal_;
-    bool agendado_ = false;
 };
 
 } // namespace sorvelo

@@ -95,23 +95,12 @@ JanelaInsereVetor::JanelaInsereVetor(Programa& p, QWidget* pai)
     v_.aoContar = [this](const QString& t) { lblCont_->setText(t); };
     v_.aoMostrarRotulos = [this] { sincroniza(); };
     v_.aoFechar = [this] { done(0); };
+    rodaAoAparecer([this] { v_.ativa(); });
 }
 
 void JanelaInsereVetor::sincroniza() {
     lblCont_->setText(v_.LblCont);
     lblTotal_->setText(v_.LblTotal);
-}
-
-void JanelaInsereVetor::showEvent(QShowEvent* e) {
-    Formulario::showEvent(e);
-    if (agendado_) return;
-    agendado_ = true;
-    // The whole work runs when the dialog first comes to the front, once
-    // its modal loop is running.
-    QTimer::singleShot(0, this, [this] {
-        executaProtegido([this] { v_.ativa(); });
-        sincroniza();
-    });
 }
 
 void JanelaInsereVetor::closeEvent(QCloseEvent* e) {

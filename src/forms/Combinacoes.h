@@ -35,13 +35,11 @@ public:
     void sincroniza() override;
 
 protected:
-    void showEvent(QShowEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
 private:
     InsereVetor v_;
     QLabel *lblCont_, *lblTotal_;
-    bool agendado_ = false;
 };
 
 // The functions through which the main window shows the two dialogs.

@@ -79,24 +79,13 @@ JanelaInsereVetorReduz::JanelaInsereVetorReduz(Programa& p, QWidget* pai)
     v_.aoMudarMensagem = [this] { lblMensagem_->setText(v_.LblMensagem); };
     v_.aoContar = [this](const QString& t) { lblCont_->setText(t); };
     v_.aoFechar = [this] { done(0); };
+    rodaAoAparecer([this] { v_.ativa(); });
 }
 
 void JanelaInsereVetorReduz::sincroniza() {
     lblMensagem_->setText(v_.LblMensagem);
     lblCont_->setText(v_.LblCont);
     lblTotal_->setText(v_.LblTotal);
-}
-
-void JanelaInsereVetorReduz::showEvent(QShowEvent* e) {
-    Formulario::showEvent(e);
-    if (agendado_) return;
-    agendado_ = true;
-    // The whole work runs when the dialog first comes to the front, once
-    // its modal loop is running.
-    QTimer::singleShot(0, this, [this] {
-        executaProtegido([this] { v_.ativa(); });
-        sincroniza();
-    });
 }
 
 void JanelaInsereVetorReduz::closeEvent(QCloseEvent* e) {

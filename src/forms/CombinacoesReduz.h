@@ -34,13 +34,11 @@ public:
     void sincroniza() override;
 
 protected:
-    void showEvent(QShowEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
 private:
     InsereVetorReduz v_;
     QLabel *lblMensagem_, *lblCont_, *lblTotal_;
-    bool agendado_ = false;
 };
 
 // The functions through which the main window shows the reduced

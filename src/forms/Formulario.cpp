@@ -1,7 +1,10 @@
 #include "Formulario.h"
 
 #include "Controles.h"
+#include "Protecao.h"
 #include "platform/Atividade.h"
+
+#include <QTimer>
 
 namespace sorvelo {
 
@@ -15,6 +18,16 @@ Formulario::Formulario(Programa& p, const char* nome, const QString& titulo, QWi
     fonte.setPointSize(8);
     setFont(fonte);
     FiltroEnter::instala();
+}
+
+void Formulario::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    if (!aoAparecer_ || agendado_) return;
+    agendado_ = true;
+    QTimer::singleShot(0, this, [this] {
+        executaProtegido(aoAparecer_);
+        sincroniza();
+    });
 }
 
 void Formulario::tamanho(int largura, int altura) {

@@ -8,6 +8,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 namespace sorvelo {
 
 class Formulario : public QDialog {
@@ -37,10 +39,19 @@ protected:
     }
     // Size of the client area in twips.
     void tamanho(int largura, int altura);
+    // The dialog's whole work, run once (protected, then the form brought up
+    // to date) when the dialog first comes to the front and its modal loop
+    // is running.
+    void rodaAoAparecer(std::function<void()> trabalho) { aoAparecer_ = std::move(trabalho); }
+    void showEvent(QShowEvent* e) override;
 
     Programa& p_;
     Escala escala_;
     bool sincronizando_ = false;
+
+private:
+    std::function<void()> aoAparecer_;
+    bool agendado_ = false;
 };
 
 } // namespace sorvelo
