@@ -1,4 +1,5 @@
 // Sorvelo: a workbench for the bets of the Brazilian lotteries.
+#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
 #include "platform/qt/ServicosQt.h"
 
@@ -10,10 +11,10 @@ int main(int argc, char** argv) {
     sorvelo::instalaTraducao();
 
     sorvelo::ServicosQt servicos;
-    sorvelo::Programa programa;
-    programa.s = servicos.servicos();
+    sorvelo::JanelasFormas janelas;
+    sorvelo::Programa programa(servicos.servicos(), janelas);
 
-    sorvelo::Sorvelo janela(programa);
+    sorvelo::Sorvelo janela(programa, janelas);
     QObject::connect(&janela, &sorvelo::Sorvelo::encerrado, &app, [] { QCoreApplication::exit(0); });
     janela.show();
     return QApplication::exec();

@@ -4,10 +4,10 @@
 // Estatistica.h.
 #pragma once
 
-#include "../core/Estado.h"
+#include "base/Aviso.h"
+#include "core/Estado.h"
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace sorvelo {
@@ -57,7 +57,7 @@ struct Module2 {
     Int16 ContProgresso;
     BarraProgresso Progresso;
     // Told of every change of the bar (the dialog repaints it).
-    std::function<void(const BarraProgresso&)> aoMudarProgresso;
+    Aviso<const BarraProgresso&> aoMudarProgresso;
 
     // The value of "Auto-completar" at the start of the run (0 or 1).
     Int16 AutoCompletar;
@@ -74,8 +74,6 @@ struct Module2 {
     uint8_t& Contado(int64_t linha);
 };
 
-Module2& module2(Programa& p);
-
 // The bytes that one row of a combination of k numbers takes, from VetRes
 // to the bank (the estimate against limiteMemoria).
 int64_t BytesPorLinha(int k);
@@ -83,10 +81,10 @@ int64_t BytesPorLinha(int k);
 // The message of a failed generation.
 QString MensagemMemoriaInsuficiente();
 
-bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total);
-int GravaCombinacao(Programa& p);
-bool PosicaoExcluida(Programa& p, Int32 idx);
-void IniciaProgresso(Programa& p, Int32 total);
-void AvancaProgresso(Programa& p);
+bool CombinaVetor(Nucleo& p, Module2& m,  Int16 n, Int16 k, Int32 total);
+int GravaCombinacao(Nucleo& p, Module2& m);
+bool PosicaoExcluida(Nucleo& p, Module2& m,  Int32 idx);
+void IniciaProgresso(Nucleo& p, Module2& m,  Int32 total);
+void AvancaProgresso(Nucleo& p, Module2& m);
 
 } // namespace sorvelo

@@ -21,7 +21,7 @@ QString TextoInteiro(double Valor);
 // Deletes the file; every failure, a missing file too, is skipped.
 void ApagaArquivo(const QString& Nome);
 
-// The original's Trim: blanks (spaces) only.
+// Trim: blanks (spaces) only.
 QString apara(const QString& s);
 
 } // namespace sorvelo

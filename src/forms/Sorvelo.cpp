@@ -1,10 +1,10 @@
-#include "Sorvelo.h"
+#include "forms/Sorvelo.h"
 
-#include "Combinacoes.h"
-#include "ConfApostas.h"
-#include "Controles.h"
-#include "Desenhos.h"
-#include "Protecao.h"
+#include "combinacoes/Combinacao.h"
+#include "forms/Controles.h"
+#include "forms/Desenhos.h"
+#include "forms/Janelas.h"
+#include "forms/Protecao.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
@@ -34,16 +34,6 @@ QColor qcor(Cor c) {
     return QColor(vermelho(c), verde(c), azul(c));
 }
 
-// Sets a text box's text from the model, leaving it alone when equal (so
-// that the caret of a person typing does not jump).
-void poeTexto(QLineEdit* w, const CampoTexto& c) {
-    if (w->text() != c.Text) w->setText(c.Text);
-    w->setEnabled(c.Enabled);
-}
-void poeCombo(QComboBox* w, const Combo& c) {
-    if (w->currentText() != c.Text) w->setEditText(c.Text);
-    w->setEnabled(c.Enabled);
-}
 QStringList itensGarantia(int ate) {
     QStringList l = palavrasGarantia();
     for (int i = 7; i <= ate; ++i)
@@ -52,14 +42,11 @@ QStringList itensGarantia(int ate) {
 }
 } // namespace
 
-Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(this) {
+Sorvelo::Sorvelo(Programa& p, JanelasFormas& janelas, QWidget* pai)
+    : QMainWindow(pai), FormaBase(p, this), janelas_(janelas) {
     setObjectName(QStringLiteral("Sorvelo"));
-    setProperty("sorvelo_forma", true);
     setWindowIcon(iconePrograma());
-    QFont fonte(QStringLiteral("Arial"));
-    fonte.setPointSize(8);
-    setFont(fonte);
-    FiltroEnter::instala();
+    janelas_.liga(p_, this);
 
     area_ = new QWidget(this);
     area_->setObjectName(QStringLiteral("AreaPrincipal"));
@@ -92,10 +79,7 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
     timer1_->setInterval(500);
     liga(timer1_, &QTimer::timeout, [this] { TickTimer1(p_); });
 
-    executaProtegido([this] {
-        CarregaPrincipal(p_);
-        InstalaArquivo(p_);
-    });
+    executaProtegido([this] { CarregaPrincipal(p_); });
     resize(tw(11880) - 8, tw(8900) - tw(705));
     sincroniza();
     timer1_->start();
@@ -103,7 +87,7 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
 
 Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
-    delete janelaConf_.data();
+    janelas_.confApostas.apaga();
 }
 
 template <typename F> void Sorvelo::age(F f) {
@@ -113,38 +97,6 @@ template <typename F> void Sorvelo::age(F f) {
 
 void Sorvelo::trocaJogo(const QString& nome) {
     TrocaLoteria(p_, nome);
-}
-
-JanelasCombinacao Sorvelo::janelasComb() {
-    return janelasCombinacao(this, [this] {
-        sincroniza();
-        txtBanco_->rolaParaFim();
-    });
-}
-
-void Sorvelo::abreConferencia() {
-    BtnConferir(p_, conf_);
-    if (!conf_) {
-        // The window's state is gone with the warning: the window goes now.
-        if (janelaConf_) {
-            janelaConf_->hide();
-            delete janelaConf_.data();
-        }
-        return;
-    }
-    if (janelaConf_) {
-        janelaConf_->ignoraProximaAtivacao();
-        janelaConf_->sincroniza();
-        janelaConf_->raise();
-        janelaConf_->activateWindow();
-        return;
-    }
-    ConfApostas* logica = conf_.get();
-    janelaConf_ = new JanelaConfApostas(p_, *logica, this);
-    connect(janelaConf_, &QObject::destroyed, this, [this, logica] {
-        if (conf_.get() == logica) conf_.reset();
-    });
-    janelaConf_->mostra();
 }
 
 void Sorvelo::montaMenus() {
@@ -238,6 +190,7 @@ void Sorvelo::montaBarra() {
     txtLoteria_->setReadOnly(true);
     txtLoteria_->setAlignment(Qt::AlignCenter);
     txtLoteria_->setFocusPolicy(Qt::NoFocus);
+    vincula(txtLoteria_, p_.tela.TxtLoteria);
 }
 
 void Sorvelo::montaQuadroNumeros() {
@@ -269,10 +222,11 @@ void Sorvelo::montaQuadroNumeros() {
     txtEscolhidos_->setAlignment(Qt::AlignCenter);
     chkFixar_ =
         poe(new QCheckBox(QStringLiteral("Fixar números")), frame1_, "ChkFixar", 2760, 3030, 1500, 255);
-    liga(chkFixar_, &QCheckBox::clicked, [this](bool v) { p_.tela.ChkFixar.Value = v; });
+    vincula(chkFixar_, p_.tela.ChkFixar);
     rotulo(frame1_, QStringLiteral("Valor da aposta:"), 720, 3450, 1300, 255);
     txtValAp_ = poe(new QLineEdit, frame1_, "TxtValAp", 2040, 3390, 855, 315);
-    liga(txtValAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtValAp.Text = t; });
+    vincula(txtEscolhidos_, p_.tela.TxtEscolhidos);
+    vincula(txtValAp_, p_.tela.TxtValAp);
     auto* limpar =
         poe(new QPushButton(QStringLiteral("Limpar")), frame1_, "BtnLimpar", 4320, 3000, 1095, 375);
     liga(static_cast<QPushButton*>(limpar), &QPushButton::clicked, [this] { BtnLimpar(p_); });
@@ -292,6 +246,8 @@ void Sorvelo::montaQuadroBanco() {
     txtQuantApostas_ = poe(new QLineEdit, fraBanco_, "TxtQuantApostas", 1200, 3570, 1095, 315);
     rotulo(fraBanco_, QStringLiteral("Valor Total:"), 2460, 3630, 960, 255);
     txtValorApostas_ = poe(new QLineEdit, fraBanco_, "TxtValorApostas", 3420, 3570, 1335, 315);
+    vincula(txtQuantApostas_, p_.tela.TxtQuantApostas);
+    vincula(txtValorApostas_, p_.tela.TxtValorApostas);
     for (QLineEdit* t : {txtQuantApostas_, txtValorApostas_}) {
         t->setReadOnly(true);
         t->setAlignment(Qt::AlignRight);
@@ -306,7 +262,7 @@ void Sorvelo::montaQuadroBanco() {
         2415, 375);
     auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
                          4440, 2535, 375);
-    liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });
+    liga(conferir, &QPushButton::clicked, [this] { BtnConferir(p_); });
     fraBanco_->setMouseTracking(true);
     fraBanco_->installEventFilter(this);
 }
@@ -320,7 +276,7 @@ void Sorvelo::montaQuadrosCombinacao() {
     auto* iniciar = poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")), frame2_, "BtnIniciar",
                         2760, 330, 2655, 435);
     iniciar->setToolTip(QStringLiteral("Faz uma combinação para fazer o fechamento dos números escolhidos"));
-    liga(iniciar, &QPushButton::clicked, [this] { BtnIniciar(p_, janelasComb()); });
+    liga(iniciar, &QPushButton::clicked, [this] { BtnIniciar(p_); });
 
     frame5_ = poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280,
                   5655, 1695);
@@ -343,8 +299,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     chkReduzir_ = poe(new QCheckBox(QStringLiteral("Reduzir quant. de jogos ao mínimo possível")), frame5_,
                       "ChkReduzir", 240, 1380, 5000, 255);
 
-    liga(txtDezAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp.Text = t; });
-    liga(txtDezAp2_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp2.Text = t; });
+    vincula(txtDezAp_, p_.tela.TxtDezAp);
+    vincula(txtDezAp2_, p_.tela.TxtDezAp2);
     // A spin button writes its value into its text box and gives it the focus.
     auto giro = [this](BotaoGiro* botao, Spin& spin, CampoTexto& campo, QLineEdit* caixa) {
         liga(botao, &BotaoGiro::valueChanged, [this, &spin, &campo, caixa](int v) {
@@ -355,17 +311,14 @@ void Sorvelo::montaQuadrosCombinacao() {
     };
     giro(spbDezAp_, p_.tela.SpbDezAp, p_.tela.TxtDezAp, txtDezAp_);
     giro(spbDezAp2_, p_.tela.SpbDezAp2, p_.tela.TxtDezAp2, txtDezAp2_);
-    liga(cmbGarantia_, &QComboBox::editTextChanged,
-         [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
+    vincula(cmbGarantia_, p_.tela.CmbGarantia);
     liga(cmbGarantia_, &QComboBox::activated, [this](int) {
         p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
         CliqueGarantia(p_);
     });
-    liga(cmbAcertar_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbAcertar.Text = t; });
-    liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) {
-        p_.tela.ChkReduzir.Value = v;
-        p_.tela.CmbAcertar.Enabled = v;
-    });
+    vincula(cmbAcertar_, p_.tela.CmbAcertar);
+    vincula(chkReduzir_, p_.tela.ChkReduzir);
+    liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) { p_.tela.CmbAcertar.Enabled = v; });
     for (QWidget* q : {static_cast<QWidget*>(frame2_), static_cast<QWidget*>(frame5_)}) {
         q->setMouseTracking(true);
         q->installEventFilter(this);
@@ -385,10 +338,10 @@ void Sorvelo::montaQuadroOpcoes() {
     cmbFecha_ = poe(new QComboBox, frame3_, "CmbFecha", 1260, 270, 1215, 315);
     cmbFecha_->setEditable(true);
     cmbFecha_->addItems(itensGarantia(15));
-    liga(cmbFecha_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbFecha.Text = t; });
+    vincula(cmbFecha_, p_.tela.CmbFecha);
     btnFechar_ = poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240,
                      2655, 375);
-    liga(btnFechar_, &QPushButton::clicked, [this] { BtnFechar(p_, janelasComb()); });
+    liga(btnFechar_, &QPushButton::clicked, [this] { BtnFechar(p_); });
     auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_,
                         "BtnSortear", 240, 600, 2535, 330);
     auto* jogoAJogo =
@@ -437,29 +390,14 @@ void Sorvelo::montaAjuda() {
     }
 }
 
-void Sorvelo::sincroniza() {
-    sincronizando_ = true;
+void Sorvelo::atualizaTela() {
     const auto& t = p_.tela;
-    const auto& e = p_.e;
-    Q_UNUSED(e);
     for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
         const Celula& c = t.celulas[size_t(i)];
         num_[size_t(i)]->define(c.Text, qcor(c.BackColor), qcor(c.ForeColor));
     }
-    poeTexto(txtEscolhidos_, t.TxtEscolhidos);
-    poeTexto(txtValAp_, t.TxtValAp);
-    poeTexto(txtDezAp_, t.TxtDezAp);
-    poeTexto(txtDezAp2_, t.TxtDezAp2);
-    poeTexto(txtLoteria_, t.TxtLoteria);
-    poeTexto(txtQuantApostas_, t.TxtQuantApostas);
-    poeTexto(txtValorApostas_, t.TxtValorApostas);
     spbDezAp_->setValueSilencioso(t.SpbDezAp.Value);
     spbDezAp2_->setValueSilencioso(t.SpbDezAp2.Value);
-    chkFixar_->setChecked(t.ChkFixar.Value);
-    chkReduzir_->setChecked(t.ChkReduzir.Value);
-    poeCombo(cmbFecha_, t.CmbFecha);
-    poeCombo(cmbGarantia_, t.CmbGarantia);
-    poeCombo(cmbAcertar_, t.CmbAcertar);
     btnFechar_->setEnabled(t.BtnFecharEnabled);
     menuMegaSena_->setChecked(t.MenuMegaSena);
     menuDuplaSena_->setChecked(t.MenuDuplaSena);
@@ -469,6 +407,10 @@ void Sorvelo::sincroniza() {
     if (windowTitle() != t.Caption) setWindowTitle(t.Caption);
     txtBanco_->setVisible(t.TxtBanco.visivel());
     txtBanco_->atualiza();
+    if (caretNoFimVisto_ != t.TxtBanco.pedidosCaretNoFim()) {
+        caretNoFimVisto_ = t.TxtBanco.pedidosCaretNoFim();
+        txtBanco_->rolaParaFim();
+    }
     aplicaLayout();
     for (size_t k = 0; k < helpRotina_.size(); ++k)
         helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
@@ -479,7 +421,6 @@ void Sorvelo::sincroniza() {
     }
     if (barraVert_->value() != t.BarraVert.Value) barraVert_->setValue(t.BarraVert.Value);
     if (barraHoriz_->value() != t.BarraHoriz.Value) barraHoriz_->setValue(t.BarraHoriz.Value);
-    sincronizando_ = false;
 }
 
 void Sorvelo::aplicaLayout() {
@@ -498,7 +439,7 @@ void Sorvelo::aplicaLayout() {
 void Sorvelo::resizeEvent(QResizeEvent* e) {
     QMainWindow::resizeEvent(e);
     if (!area_ || !barraVert_) return;
-    // The outer size as the original measures it: the work area plus the
+    // The outer size: the work area plus the
     // borders, the title and the menu.
     const int largura = deTw(area_->width()) + 120;
     const int altura = deTw(area_->height()) + 705;

@@ -1,4 +1,4 @@
-#include "Servicos.h"
+#include "platform/Servicos.h"
 
 #include <cstring>
 
@@ -26,7 +26,7 @@ QString textoHora(const QDateTime& momento) {
 
 void randomizeRelogio(FonteAleatoria& fonte, Relogio& relogio) {
     const QTime t = relogio.agora().time();
-    // The timer of the original is a single-precision count of seconds.
+    // The timer is a single-precision count of seconds.
     const float segundos = float(t.msecsSinceStartOfDay()) / 1000.0f;
     fonte.randomize(double(segundos));
 }

@@ -30,7 +30,7 @@ public:
 class DialogoArquivo {
 public:
     virtual ~DialogoArquivo() = default;
-    // filtro in the original's form: "Arquivo de apostas (*.Apo)|*.Apo;"
+    // filtro in the program's own form: "Arquivo de apostas (*.Apo)|*.Apo;"
     virtual QString abrir(const QString& titulo, const QString& filtro) = 0;
     virtual QString salvar(const QString& titulo, const QString& filtro) = 0;
 };

@@ -8,7 +8,8 @@
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
+#include "forms/Janelas.h"
 
 #include <QApplication>
 #include <QDir>
@@ -36,9 +37,9 @@ void aoAbrir(const QString& arquivo, std::function<void(QWidget*)> depois) {
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     ServicosDuplos duplos;
-    Programa p;
-    p.s = duplos.servicos();
-    Sorvelo janela(p);
+    JanelasFormas janelas;
+    Programa p(duplos.servicos(), janelas);
+    Sorvelo janela(p, janelas);
     janela.show();
     const QStringList args = QCoreApplication::arguments().mid(1);
     if (args.value(0) == QStringLiteral("--dialogos")) {

@@ -3,12 +3,13 @@
 #include "forms/Controles.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
+#include "apoio/FormasTeste.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGroupBox>
@@ -29,14 +30,11 @@ using namespace sorvelo;
 
 namespace {
 
-class JanelaPrincipal : public ::testing::Test {
+class JanelaPrincipal : public ::testing::Test, public teste::FormasTeste {
 protected:
     void SetUp() override {
         duplos.pasta.define(pasta.path());
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
-        janela->show();
-        QApplication::processEvents();
+        abreJanela();
     }
     void TearDown() override { defineTratadorFalha(nullptr); }
 
@@ -72,14 +70,11 @@ protected:
     QColor fundo(int i) { return controle<CelulaNumero>(QStringLiteral("Num(%1)").arg(i))->fundo(); }
 
     QTemporaryDir pasta;
-    ServicosDuplos duplos;
-    Programa p;
-    std::unique_ptr<Sorvelo> janela;
 };
 
 const QColor Azul(0, 0, 200), Vermelho(200, 0, 0), Livre(0, 64, 0);
 
-TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloOriginal) {
+TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloSorVelo) {
     EXPECT_EQ(janela->windowTitle(), QStringLiteral("Sor Velo"));
     EXPECT_EQ(texto(QStringLiteral("TxtLoteria")), QStringLiteral("Mega-Sena"));
     EXPECT_TRUE(acao(QStringLiteral("MenuMegaSena"))->isChecked());
@@ -92,7 +87,7 @@ TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloOriginal) {
     EXPECT_EQ(texto(QStringLiteral("TxtDezAp")), QStringLiteral("06"));
 }
 
-TEST_F(JanelaPrincipal, TodosOsControlesTemONomeDaDescricao) {
+TEST_F(JanelaPrincipal, TodosOsControlesTemSeuNomeComoObjectName) {
     const QStringList nomes{
         "BarraSup",      "TxtLoteria",     "BarraVert",       "BarraHoriz",      "PicLoteria",
         "Frame1",        "BtnSeta",        "FraBanco",        "Frame2",          "Frame5",
@@ -209,11 +204,11 @@ TEST_F(TrocaDeJogo, NaoEsvaziaEMudaDeJogo) {
 
 TEST_F(TrocaDeJogo, SimSalvaAntesDeMudar) {
     bancoAlterado();
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    const QString arquivo = QDir(pasta.path()).filePath(QStringLiteral("salvo.Apo"));
+    duplos.dialogo.enfileira(arquivo);
     duplos.caixa.responde(Resposta::Sim);
     clicaBotao(QStringLiteral("BarraSup(9)"));
-    EXPECT_EQ(salvou, 1);
+    EXPECT_TRUE(QFile::exists(arquivo));
     EXPECT_EQ(texto(QStringLiteral("TxtLoteria")), QStringLiteral("Lotomania"));
     EXPECT_TRUE(acao(QStringLiteral("MenuLotomania"))->isChecked());
     EXPECT_EQ(controle<CelulaNumero>(QStringLiteral("Num(0)"))->text(), QStringLiteral("00"));

@@ -1,7 +1,7 @@
 // The commands of a scenario line, and how they find the controls.
-#include "Acoes.h"
-#include "Observacao.h"
-#include "Roteiro.h"
+#include "roteiro/Acoes.h"
+#include "roteiro/Observacao.h"
+#include "roteiro/Roteiro.h"
 #include "core/Estado.h"
 #include "forms/Sorvelo.h"
 

@@ -1,6 +1,6 @@
-#include "Observacao.h"
+#include "roteiro/Observacao.h"
 
-#include "Transcricao.h"
+#include "roteiro/Transcricao.h"
 #include "forms/Controles.h"
 #include "platform/qt/AreaRica.h"
 

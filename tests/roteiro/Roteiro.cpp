@@ -1,8 +1,9 @@
-#include "Roteiro.h"
+#include "roteiro/Roteiro.h"
 
 #include "core/Estado.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
+#include "programa/Programa.h"
 #include "platform/Atividade.h"
 
 #include <QApplication>
@@ -72,9 +73,8 @@ bool Roteiro::preparaPasta() {
 }
 
 void Roteiro::criaJanela() {
-    programa_ = std::make_unique<Programa>();
-    programa_->s = servicos_.servicos();
-    janela_ = std::make_unique<Sorvelo>(*programa_);
+    programa_ = std::make_unique<Programa>(servicos_.servicos(), janelas_);
+    janela_ = std::make_unique<Sorvelo>(*programa_, janelas_);
     connect(janela_.get(), &Sorvelo::encerrado, this, &Roteiro::aoEncerrar);
     if (op_.aoCriarJanela) op_.aoCriarJanela(*janela_);
     janela_->show();

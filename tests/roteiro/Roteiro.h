@@ -3,10 +3,11 @@
 // program waits for the person, and writes the transcript.
 #pragma once
 
-#include "Cenario.h"
-#include "ServicosRoteiro.h"
-#include "TempoVirtual.h"
-#include "Transcricao.h"
+#include "forms/Janelas.h"
+#include "roteiro/Cenario.h"
+#include "roteiro/ServicosRoteiro.h"
+#include "roteiro/TempoVirtual.h"
+#include "roteiro/Transcricao.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -130,6 +131,7 @@ private:
     OpcoesRoteiro op_;
     ServicosRoteiro servicos_;
     std::unique_ptr<QTemporaryDir> pastaTemporaria_;
+    JanelasFormas janelas_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Sorvelo> janela_;
     TempoVirtual tempo_;

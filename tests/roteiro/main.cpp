@@ -1,6 +1,6 @@
 // sorvelo-roteiro: runs a scenario file against the real program, headless,
 // and writes the transcript of what the program showed.
-#include "Roteiro.h"
+#include "roteiro/Roteiro.h"
 #include "platform/qt/ServicosQt.h"
 
 #include <QApplication>

@@ -4,7 +4,7 @@
 // user, with a mouse selection, copy and select-all.
 #pragma once
 
-#include "../DocumentoRico.h"
+#include "platform/DocumentoRico.h"
 
 #include <QAbstractScrollArea>
 #include <QFont>

@@ -1,7 +1,9 @@
-#include "ServicosQt.h"
+#include "platform/qt/ServicosQt.h"
 
-#include "../Atividade.h"
-#include "core/Semantica.h"
+#include "platform/qt/Vista.h"
+
+#include "platform/Atividade.h"
+#include "base/Semantica.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -25,6 +27,7 @@ QWidget* janelaAtiva() {
 }
 
 void caixaSimples(QMessageBox::Icon icone, const QString& texto) {
+    atualizaVistas();
     QMessageBox caixa(icone, Titulo, texto, QMessageBox::Ok, janelaAtiva());
     EmModal modal;
     caixa.exec();
@@ -49,6 +52,7 @@ Resposta CaixaMensagemQt::pergunta(const QString& texto, Botoes botoes, Resposta
                            : padrao == Resposta::Cancelar ? QMessageBox::Cancel
                                                           : QMessageBox::Yes);
     if (botoes == Botoes::SimNao) caixa.setEscapeButton(QMessageBox::No);
+    atualizaVistas();
     EmModal modal;
     switch (caixa.exec()) {
     case QMessageBox::Yes:
@@ -74,12 +78,14 @@ QString DialogoArquivoQt::filtroQt(const QString& filtro) {
 }
 
 QString DialogoArquivoQt::abrir(const QString& titulo, const QString& filtro) {
+    atualizaVistas();
     EmModal modal;
     return QFileDialog::getOpenFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro));
 }
 
 QString DialogoArquivoQt::salvar(const QString& titulo, const QString& filtro) {
     // The overwrite question belongs to the program, not to the dialog.
+    atualizaVistas();
     EmModal modal;
     return QFileDialog::getSaveFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro), nullptr,
                                         QFileDialog::DontConfirmOverwrite);
@@ -130,6 +136,7 @@ void ImpressoraQt::fim() {
 
 void CedenciaQt::cede() {
     if (desde_.isValid() && desde_.elapsed() < intervaloMs_) return;
+    atualizaVistas();
     QCoreApplication::processEvents();
     desde_.start();
 }

@@ -1,7 +1,7 @@
 // The desktop implementations of the services.
 #pragma once
 
-#include "../Servicos.h"
+#include "platform/Servicos.h"
 
 #include <QElapsedTimer>
 #include <QString>

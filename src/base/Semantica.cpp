@@ -1,4 +1,4 @@
-#include "Semantica.h"
+#include "base/Semantica.h"
 
 #include <cfenv>
 #include <cmath>
@@ -183,7 +183,7 @@ QString textoNumero(int64_t numero) {
 }
 
 namespace {
-// The original's display of a floating value with a given count of
+// The display of a floating value with a given count of
 // significant digits: no leading zero before the point, exponent E+NN.
 QString textoFlutuante(double numero, int significativos) {
     if (numero == 0) return QStringLiteral(" 0");

@@ -1,10 +1,10 @@
-// Two-dimensional arrays of text with the bounds semantics of the original
+// Two-dimensional arrays of text with the bounds semantics of the program's run time
 // (ReDim clears, ReDim Preserve grows the last dimension keeping contents,
 // an index outside the bounds is failure 9), stored compactly: a cell that is
 // empty, "#" or a two-digit number takes one byte.
 #pragma once
 
-#include "Semantica.h"
+#include "base/Semantica.h"
 
 #include <QString>
 

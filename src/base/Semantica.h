@@ -1,4 +1,4 @@
-// Semantics of the original run time, kept in one place: checked 16- and
+// Semantics of the program's run time, kept in one place: checked 16- and
 // 32-bit integers, conversion at the nearest whole number with halves to even,
 // the numeric value of a text, number masks, number-to-text with the blank of
 // the sign, and the run-time failure that ends the program.
@@ -71,7 +71,7 @@ int32_t paraInt32(int64_t valor);
 template <typename T> class InteiroVerificado {
 public:
     constexpr InteiroVerificado() = default;
-    constexpr InteiroVerificado(T v) : v_(v) {} // NOLINT: as the original's literals
+    constexpr InteiroVerificado(T v) : v_(v) {} // NOLINT: as the program's literals
     static InteiroVerificado de(int64_t v) { return InteiroVerificado(converte(v)); }
     static InteiroVerificado de(double v) { return InteiroVerificado(converte(v)); }
     constexpr T valor() const { return v_; }
@@ -140,7 +140,7 @@ inline QString formata00(int64_t numero) {
 QString textoNumero(int64_t numero);
 QString textoNumero(double numero);
 
-// Single-precision value as the original prints it (for Rnd results).
+// Single-precision value as the program prints it (for Rnd results).
 QString textoNumeroSimples(float numero);
 
 } // namespace sorvelo
