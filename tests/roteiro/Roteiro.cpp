@@ -3,6 +3,7 @@
 #include "core/Estado.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
+#include "platform/qt/Vista.h"
 #include "programa/Programa.h"
 #include "platform/Atividade.h"
 
@@ -186,6 +187,8 @@ void Roteiro::cedeu() {
         if (armadas_[i].feita || armadas_[i].cedencia != cedencias_) continue;
         armadas_[i].feita = true;
         const LinhaCenario linha = armadas_[i].linha;
+        // What the program shows at this yield, as its own yield shows it.
+        atualizaVistas();
         ++profundidadeCedencia_;
         linhaAtual_ = linha.numero;
         executaLinha(linha);

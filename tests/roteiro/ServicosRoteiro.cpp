@@ -74,7 +74,6 @@ void AbridorConduzido::abre(const QString& endereco) {
 }
 
 void CedenciaConduzida::cede() {
-    atualizaVistas();
     c_.cedeu();
     QCoreApplication::processEvents();
 }
