@@ -1,9 +1,9 @@
 // Times of the bet file: saving a bank of 1,000,000 bets (the RTF of the
 // bank included) and opening a file of 2,500 Mega-Sena bets.
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <QFile>

@@ -1,11 +1,11 @@
 // Time and memory of a bank of a million six-number bets: the batch written
 // into VetBan and TxtBanco with the bank hidden, then shown in the view.
 // Usage: banco_bench [bets]  (default 1000000)
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
-#include "programa/Programa.h"
 #include "platform/qt/AreaRica.h"
+#include "programa/Programa.h"
 
 #include <QApplication>
 #include <QFile>

@@ -5,12 +5,12 @@
 // A window with a progress bar and a counter label, shown offscreen, takes
 // the place of the dialogs, so that the yields that go to the message loop
 // pay for their painting as on the desktop.
+#include "apoio/Duplos.h"
 #include "combinacoes/Combinacao.h"
 #include "combinacoes/InsereVetor.h"
 #include "combinacoes/Module2.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include "platform/qt/ServicosQt.h"
@@ -167,19 +167,16 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     Janela tela;
 
-    const Cenario vinte{"20 números da Mega-Sena, 6 a 6 (38.760)", 0.5,
-                        [](Programa& p) {
+    const Cenario vinte{"20 números da Mega-Sena, 6 a 6 (38.760)", 0.5, [](Programa& p) {
                             for (int i = 0; i < 20; ++i)
                                 ClicaNumero(p, Int16(int16_t(i)));
                             BtnIniciar(p);
                         }};
-    const Cenario quina{"Fechamento Quina da Mega-Sena (5.461.512)", 15,
-                        [](Programa& p) {
+    const Cenario quina{"Fechamento Quina da Mega-Sena (5.461.512)", 15, [](Programa& p) {
                             p.tela.CmbFecha.Text = QStringLiteral("Quina");
                             BtnFechar(p);
                         }};
-    const Cenario quadra{"Fechamento Quadra, Auto-completar (487.635)", 3,
-                         [](Programa& p) {
+    const Cenario quadra{"Fechamento Quadra, Auto-completar (487.635)", 3, [](Programa& p) {
                              p.tela.CmbFecha.Text = QStringLiteral("Quadra");
                              BtnFechar(p);
                          }};

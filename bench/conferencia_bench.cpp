@@ -1,11 +1,11 @@
 // Verification of the bank against a marked result: time from the press of
 // "Iniciar conferência" to "Concluído.", the raw scoring rate on one core,
 // and a long listing. Prints the figures; asserts nothing about time.
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Pontuacao.h"

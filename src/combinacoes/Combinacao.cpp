@@ -1,9 +1,9 @@
 #include "combinacoes/Combinacao.h"
 
+#include "combinacoes/Estatistica.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "combinacoes/Estatistica.h"
 
 namespace sorvelo {
 

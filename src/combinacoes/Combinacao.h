@@ -7,7 +7,6 @@
 #include "combinacoes/Module2.h"
 #include "core/LogicaDialogo.h"
 
-
 namespace sorvelo {
 
 class Combinacoes : public LogicaDialogo {

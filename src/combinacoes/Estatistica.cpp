@@ -14,7 +14,7 @@ double valorCelula(const MatrizTexto& vet, int64_t coluna, int64_t linha) {
 }
 
 // Whether the row holds each of the c values that `alvo` gives.
-template <typename Alvo> bool linhaTem(Nucleo& p, Module2& m,  Int32 linha, Int16 c, Alvo alvo) {
+template <typename Alvo> bool linhaTem(Nucleo& p, Module2& m, Int32 linha, Int16 c, Alvo alvo) {
     if (m.Contado(linha.valor())) return false;
     if (c < 1) return false;
     for (int64_t idx = 0; idx < c.valor(); ++idx) {
@@ -32,7 +32,7 @@ template <typename Alvo> bool linhaTem(Nucleo& p, Module2& m,  Int32 linha, Int1
     return true;
 }
 
-void passeDezenas(Nucleo& p, Module2& m,  Int16 c, Int16& contador) {
+void passeDezenas(Nucleo& p, Module2& m, Int16 c, Int16& contador) {
     contador = 0;
     for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
         if (JogoTemDezenas(p, m, linha, c)) contador += 1;
@@ -40,7 +40,7 @@ void passeDezenas(Nucleo& p, Module2& m,  Int16 c, Int16& contador) {
     }
 }
 
-void passeSubconjuntos(Nucleo& p, Module2& m,  Int16 k, Int16 n, Int16& contador) {
+void passeSubconjuntos(Nucleo& p, Module2& m, Int16 k, Int16 n, Int16& contador) {
     contador = 0;
     GeraSubconjuntos(p, m, k, n);
     for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
@@ -50,7 +50,7 @@ void passeSubconjuntos(Nucleo& p, Module2& m,  Int16 k, Int16 n, Int16& contador
     }
 }
 
-int gravaSubconjunto(Nucleo& p, Module2& m,  Int32 ultimo) {
+int gravaSubconjunto(Nucleo& p, Module2& m, Int32 ultimo) {
     Int16 col = 0;
     for (Int32 idx = 0; idx <= ultimo; ++idx) {
         if (PosicaoExcluida(p, m, idx)) continue;
@@ -62,7 +62,7 @@ int gravaSubconjunto(Nucleo& p, Module2& m,  Int32 ultimo) {
 }
 } // namespace
 
-void IniciaEstatistica(Nucleo& p, Module2& m,  Int32 total) {
+void IniciaEstatistica(Nucleo& p, Module2& m, Int32 total) {
     m.VetContado.assign(size_t(int64_t(total.valor()) + 1), 0);
     for (int i = 0; i <= 5; ++i)
         m.VetAcerto(i) = p.e.VetNum(i);
@@ -71,11 +71,11 @@ void IniciaEstatistica(Nucleo& p, Module2& m,  Int32 total) {
     m.DezPorCartao = p.e.DezAposta;
 }
 
-bool JogoTemDezenas(Nucleo& p, Module2& m,  Int32 linha, Int16 c) {
+bool JogoTemDezenas(Nucleo& p, Module2& m, Int32 linha, Int16 c) {
     return linhaTem(p, m, linha, c, [&](int64_t idx) { return int64_t(m.VetAcerto(idx).valor()); });
 }
 
-bool JogoTemSubconjunto(Nucleo& p, Module2& m,  Int32 linha, Int32 j, Int16 c) {
+bool JogoTemSubconjunto(Nucleo& p, Module2& m, Int32 linha, Int32 j, Int16 c) {
     return linhaTem(p, m, linha, c, [&](int64_t idx) { return int64_t(m.Sub(j.valor(), idx).valor()); });
 }
 
@@ -84,7 +84,7 @@ void LimpaContados(Nucleo&, Module2& m) {
         m.Contado(linha.valor()) = 0;
 }
 
-void GeraSubconjuntos(Nucleo& p, Module2& m,  Int16 k, Int16 n) {
+void GeraSubconjuntos(Nucleo& p, Module2& m, Int16 k, Int16 n) {
     const Int32 ultimo = Int32(n.valor()) - 1;
     m.UltPos = Int32(n.valor()) - 1 - k.valor();
     for (Int32 i = 0; i <= m.UltPos; ++i) {
@@ -114,7 +114,7 @@ void GeraSubconjuntos(Nucleo& p, Module2& m,  Int16 k, Int16 n) {
     }
 }
 
-void FazEstatistica(Nucleo& p, Module2& m,  const QString& jogo, Int32 total) {
+void FazEstatistica(Nucleo& p, Module2& m, const QString& jogo, Int32 total) {
     IniciaEstatistica(p, m, total);
     const QString nome = jogo.toUpper();
     if (nome == QStringLiteral("MEGA-SENA") || nome == QStringLiteral("DUPLA SENA")) {

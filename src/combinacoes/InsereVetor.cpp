@@ -2,8 +2,8 @@
 
 #include "core/Loteria.h"
 
-#include "core/BancoApostas.h"
 #include "combinacoes/Estatistica.h"
+#include "core/BancoApostas.h"
 
 #include <algorithm>
 #include <cmath>

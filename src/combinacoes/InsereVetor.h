@@ -10,7 +10,6 @@
 
 #include <QStringList>
 
-
 namespace sorvelo {
 
 class InsereVetor : public LogicaDialogo {

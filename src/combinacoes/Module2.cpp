@@ -95,7 +95,7 @@ void preparaVetRes(Nucleo& p, Module2& m, Int16 k, Int32 total) {
 }
 } // namespace
 
-bool CombinaVetor(Nucleo& p, Module2& m,  Int16 n, Int16 k, Int32 total) {
+bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total) {
     try {
         verificaMemoria(m, total, k);
         preparaVetRes(p, m, k, total);

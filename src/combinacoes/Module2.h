@@ -81,10 +81,10 @@ int64_t BytesPorLinha(int k);
 // The message of a failed generation.
 QString MensagemMemoriaInsuficiente();
 
-bool CombinaVetor(Nucleo& p, Module2& m,  Int16 n, Int16 k, Int32 total);
+bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total);
 int GravaCombinacao(Nucleo& p, Module2& m);
-bool PosicaoExcluida(Nucleo& p, Module2& m,  Int32 idx);
-void IniciaProgresso(Nucleo& p, Module2& m,  Int32 total);
+bool PosicaoExcluida(Nucleo& p, Module2& m, Int32 idx);
+void IniciaProgresso(Nucleo& p, Module2& m, Int32 total);
 void AvancaProgresso(Nucleo& p, Module2& m);
 
 } // namespace sorvelo

@@ -16,8 +16,8 @@ const Celula& TelaPrincipal::Num(int64_t i) const {
 
 namespace {
 const Servicos& verificados(const Servicos& s) {
-    const bool completos =
-        s.caixa && s.dialogo && s.impressora && s.aleatorio && s.relogio && s.cedencia && s.abridor && s.pasta;
+    const bool completos = s.caixa && s.dialogo && s.impressora && s.aleatorio && s.relogio && s.cedencia &&
+                           s.abridor && s.pasta;
     if (!completos) throw std::invalid_argument("Nucleo: a service is missing");
     return s;
 }

@@ -1,7 +1,7 @@
 #include "core/Rtf.h"
 
-#include "core/Cp1252.h"
 #include "base/Semantica.h"
+#include "core/Cp1252.h"
 
 #include <algorithm>
 #include <charconv>

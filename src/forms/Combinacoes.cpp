@@ -22,9 +22,10 @@ JanelaCombinacoes::JanelaCombinacoes(Programa& p, QWidget* pai)
     negrito.setBold(true);
     for (QLabel* l : {lblDezComb, lblDezCart, lblTotAp_, lblValAp_})
         l->setFont(negrito);
-    auto* chkEst = poe(new QCheckBox(QStringLiteral("Fazer estatística de acertos")), this, "ChkEst", 240, 1500,
-                       4800, 300);
-    auto* chkAuto = poe(new QCheckBox(QStringLiteral("Auto-completar")), this, "ChkAuto", 240, 1500, 4800, 300);
+    auto* chkEst = poe(new QCheckBox(QStringLiteral("Fazer estatística de acertos")), this, "ChkEst", 240,
+                       1500, 4800, 300);
+    auto* chkAuto =
+        poe(new QCheckBox(QStringLiteral("Auto-completar")), this, "ChkAuto", 240, 1500, 4800, 300);
     progresso_ = poe(new QProgressBar, this, "Progresso", 240, 1920, 4920, 300);
     progresso_->setTextVisible(false);
     auto* lblMensagem = rotulo(QString(), 240, 2280, 4920, 255, "LblMensagem");

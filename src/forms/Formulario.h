@@ -51,7 +51,8 @@ protected:
     template <typename W> W* poe(W* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
         return escala_.poe(w, pai, nome, x, y, l, a);
     }
-    QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a, const char* nome = nullptr) {
+    QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a,
+                   const char* nome = nullptr) {
         return escala_.rotulo(pai, texto, x, y, l, a, nome);
     }
 

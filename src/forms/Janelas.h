@@ -12,6 +12,28 @@ class QWidget;
 
 namespace sorvelo {
 
+// Each form's unit defines the function that shows its dialog (modal:
+// returns when it has closed); they are all declared here, so that
+// Janelas.cpp needs no include of a new form.
+void mostraJanelaCombinacoes(Programa& p, QWidget* pai);
+void mostraJanelaInsereVetor(Programa& p, QWidget* pai);
+void mostraJanelaFiltrar(Programa& p, QWidget* pai);
+void mostraJanelaEliminar(Programa& p, QWidget* pai);
+void mostraJanelaSortear(Programa& p, QWidget* pai);
+void mostraJanelaSortComb(Programa& p, QWidget* pai);
+void mostraJanelaDigitacao(Programa& p, QWidget* pai);
+void mostraJanelaEntraTexto(Programa& p, QWidget* pai);
+void mostraJanelaEstatisticas(Programa& p, QWidget* pai);
+void mostraJanelaRelBanco(Programa& p, QWidget* pai);
+void mostraJanelaCombinacoesReduz(Programa& p, QWidget* pai);
+void mostraJanelaInsereVetorReduz(Programa& p, QWidget* pai);
+void mostraJanelaCombSuperReduz(Programa& p, QWidget* pai);
+void mostraJanelaJogoAJogo(Programa& p, QWidget* pai);
+void mostraJanelaHelp(Programa& p, QWidget* pai);
+void mostraJanelaTopicos(Programa& p, QWidget* pai);
+void mostraJanelaSobre(Programa& p, QWidget* pai);
+void mostraJanelaApresenta(Programa& p, QWidget* pai);
+
 class JanelasFormas : public Dialogos {
 public:
     // The program and the main window, once both stand (Sorvelo does it).

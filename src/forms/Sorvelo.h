@@ -82,7 +82,7 @@ private:
     QAction *menuMegaSena_ = nullptr, *menuDuplaSena_ = nullptr, *menuQuina_ = nullptr,
             *menuLotomania_ = nullptr, *menuLotoFacil_ = nullptr;
     QTimer* timer1_ = nullptr;
-    int imagemSort1_ = 0;         // the picture PicSort1 shows now
+    int imagemSort1_ = 0;          // the picture PicSort1 shows now
     uint64_t caretNoFimVisto_ = 0; // requests of TxtBanco's caret at the end followed
     bool fechado_ = false;
 };

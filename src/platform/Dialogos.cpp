@@ -4,8 +4,8 @@ namespace sorvelo {
 
 QString nomeDialogo(Dialogo d) {
     switch (d) {
-#define SORVELO_DIALOGO_NOME(nome)                                                                               \
-    case Dialogo::nome:                                                                                          \
+#define SORVELO_DIALOGO_NOME(nome)                                                                           \
+    case Dialogo::nome:                                                                                      \
         return QStringLiteral(#nome);
         SORVELO_DIALOGOS(SORVELO_DIALOGO_NOME)
 #undef SORVELO_DIALOGO_NOME

@@ -6,7 +6,6 @@
 #include "core/Estado.h"
 #include "core/LogicaDialogo.h"
 
-
 namespace sorvelo {
 
 // A green piece of text (bold or not) at the end of a listing.

@@ -10,8 +10,8 @@
 
 #include <algorithm>
 #include <deque>
-#include <map>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace sorvelo {

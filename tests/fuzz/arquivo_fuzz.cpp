@@ -2,10 +2,10 @@
 // fresh program opens through the Abrir command. Reading must end normally
 // or with the run-time failure, never with a crash, a sanitizer report, a
 // hang or unbounded memory. A state that was read is written back too.
+#include "apoio/Duplos.h"
+#include "base/Semantica.h"
 #include "core/ArquivoApostas.h"
 #include "core/Principal.h"
-#include "base/Semantica.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 // Novo, Abrir, Salvar and Salvar Como on the real main window.
+#include "apoio/FormasTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "apoio/FormasTeste.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,14 +2,14 @@
 // for looking at the layout:
 //   captura SAIDA.png [cells to mark...]   the main window (a bet of the marks)
 //   captura --dialogos PASTA               also Combinações and Conferência de apostas
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
-#include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
 #include "forms/Janelas.h"
+#include "forms/Sorvelo.h"
 
 #include <QApplication>
 #include <QDir>
@@ -20,7 +20,8 @@ using namespace sorvelo;
 
 namespace {
 void marca(Programa& p, std::initializer_list<int> celulas) {
-    for (int c : celulas) ClicaNumero(p, Int16(int16_t(c)));
+    for (int c : celulas)
+        ClicaNumero(p, Int16(int16_t(c)));
 }
 
 // Saves the modal dialog on top when it shows, then runs `depois` on it.
@@ -46,9 +47,8 @@ int main(int argc, char** argv) {
         const QDir pasta(args.value(1, QStringLiteral(".")));
         marca(p, {2, 8, 15, 21, 33, 40, 47, 52});
         janela.sincroniza();
-        aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")), [](QWidget* d) {
-            d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
-        });
+        aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")),
+                [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); });
         janela.findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
         janela.grab().save(pasta.filePath(QStringLiteral("principal.png")));
         janela.findChild<QPushButton*>(QStringLiteral("BtnConferir"))->click();
@@ -59,7 +59,8 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
-    for (int i = 1; i < args.size(); ++i) ClicaNumero(p, Int16(int16_t(args[i].toInt())));
+    for (int i = 1; i < args.size(); ++i)
+        ClicaNumero(p, Int16(int16_t(args[i].toInt())));
     if (args.size() > 1) {
         InsereApostaMarcada(p);
         AtualizaContadores(p);

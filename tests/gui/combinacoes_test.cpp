@@ -1,9 +1,9 @@
 // The full combination and the closing through the real dialogs.
+#include "apoio/FormasTeste.h"
 #include "core/Grade.h"
 #include "forms/Combinacoes.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "apoio/FormasTeste.h"
 
 #include <QApplication>
 #include <QCheckBox>

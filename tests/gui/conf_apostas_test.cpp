@@ -1,10 +1,10 @@
 // The window "Conferência de apostas" on the real main window, offscreen.
+#include "apoio/FormasTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "forms/ConfApostas.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "apoio/FormasTeste.h"
 #include "platform/qt/AreaRica.h"
 
 #include <QAction>

@@ -1,9 +1,9 @@
 // The main window, offscreen, driven as a person would.
+#include "apoio/FormasTeste.h"
 #include "core/Estado.h"
 #include "forms/Controles.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
-#include "apoio/FormasTeste.h"
 
 #include <QAction>
 #include <QApplication>

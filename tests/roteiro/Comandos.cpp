@@ -1,9 +1,9 @@
 // The commands of a scenario line, and how they find the controls.
+#include "core/Estado.h"
+#include "forms/Sorvelo.h"
 #include "roteiro/Acoes.h"
 #include "roteiro/Observacao.h"
 #include "roteiro/Roteiro.h"
-#include "core/Estado.h"
-#include "forms/Sorvelo.h"
 
 #include <QAction>
 #include <QApplication>

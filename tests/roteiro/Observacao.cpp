@@ -1,8 +1,8 @@
 #include "roteiro/Observacao.h"
 
-#include "roteiro/Transcricao.h"
 #include "forms/Controles.h"
 #include "platform/qt/AreaRica.h"
+#include "roteiro/Transcricao.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

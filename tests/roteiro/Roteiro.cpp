@@ -3,9 +3,9 @@
 #include "core/Estado.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
+#include "platform/Atividade.h"
 #include "platform/qt/Vista.h"
 #include "programa/Programa.h"
-#include "platform/Atividade.h"
 
 #include <QApplication>
 #include <QEvent>

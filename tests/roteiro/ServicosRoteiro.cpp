@@ -1,7 +1,7 @@
 #include "roteiro/ServicosRoteiro.h"
 
-#include "roteiro/Transcricao.h"
 #include "platform/qt/Vista.h"
+#include "roteiro/Transcricao.h"
 
 #include <QCoreApplication>
 

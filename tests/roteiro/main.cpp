@@ -1,7 +1,7 @@
 // sorvelo-roteiro: runs a scenario file against the real program, headless,
 // and writes the transcript of what the program showed.
-#include "roteiro/Roteiro.h"
 #include "platform/qt/ServicosQt.h"
+#include "roteiro/Roteiro.h"
 
 #include <QApplication>
 #include <QFile>

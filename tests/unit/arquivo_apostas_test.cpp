@@ -1,10 +1,10 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "core/Rtf.h"
-#include "apoio/ProgramaTeste.h"
 
 #include <QDir>
 #include <QFile>

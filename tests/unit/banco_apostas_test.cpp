@@ -1,7 +1,7 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "apoio/ProgramaTeste.h"
 
 #include "apoio/ImprimeQt.h"
 

@@ -30,8 +30,8 @@ struct Conferencia : ProgramaTeste {
             if (ativaAoMostrar && !forma->Ativa()) forma.reset();
         });
     }
-    int novas = 0;               // windows loaded anew
-    bool ativaAoMostrar = true;  // false: the test activates the new window itself
+    int novas = 0;              // windows loaded anew
+    bool ativaAoMostrar = true; // false: the test activates the new window itself
     void conferir() { BtnConferir(p); }
     QString iniciar() {
         forma->BtnIniciar();

@@ -1,5 +1,5 @@
-#include "core/Module1.h"
 #include "base/Semantica.h"
+#include "core/Module1.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "apoio/ProgramaTeste.h"
 
 #include "apoio/ImprimeQt.h"
 

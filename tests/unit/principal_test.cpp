@@ -1,8 +1,8 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
-#include "apoio/ProgramaTeste.h"
 
 #include <QDir>
 #include <QFile>

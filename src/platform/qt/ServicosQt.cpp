@@ -2,8 +2,8 @@
 
 #include "platform/qt/Vista.h"
 
-#include "platform/Atividade.h"
 #include "base/Semantica.h"
+#include "platform/Atividade.h"
 
 #include <QApplication>
 #include <QCoreApplication>
