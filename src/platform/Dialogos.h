@@ -14,25 +14,25 @@
 
 namespace sorvelo {
 
-#define SORVELO_DIALOGOS(X)                                                                                       \
-    X(Combinacoes)                                                                                               \
-    X(InsereVetor)                                                                                               \
-    X(ConfApostas)                                                                                               \
-    X(Filtrar)                                                                                                   \
-    X(Eliminar)                                                                                                  \
-    X(Sortear)                                                                                                   \
-    X(SortComb)                                                                                                  \
-    X(Digitacao)                                                                                                 \
-    X(EntraTexto)                                                                                                \
-    X(Estatisticas)                                                                                              \
-    X(RelBanco)                                                                                                  \
-    X(CombinacoesReduz)                                                                                          \
-    X(InsereVetorReduz)                                                                                          \
-    X(CombSuperReduz)                                                                                            \
-    X(JogoAJogo)                                                                                                 \
-    X(Help)                                                                                                      \
-    X(Topicos)                                                                                                   \
-    X(Sobre)                                                                                                     \
+#define SORVELO_DIALOGOS(X)                                                                                  \
+    X(Combinacoes)                                                                                           \
+    X(InsereVetor)                                                                                           \
+    X(ConfApostas)                                                                                           \
+    X(Filtrar)                                                                                               \
+    X(Eliminar)                                                                                              \
+    X(Sortear)                                                                                               \
+    X(SortComb)                                                                                              \
+    X(Digitacao)                                                                                             \
+    X(EntraTexto)                                                                                            \
+    X(Estatisticas)                                                                                          \
+    X(RelBanco)                                                                                              \
+    X(CombinacoesReduz)                                                                                      \
+    X(InsereVetorReduz)                                                                                      \
+    X(CombSuperReduz)                                                                                        \
+    X(JogoAJogo)                                                                                             \
+    X(Help)                                                                                                  \
+    X(Topicos)                                                                                               \
+    X(Sobre)                                                                                                 \
     X(Apresenta)
 
 enum class Dialogo {
@@ -55,8 +55,10 @@ public:
     virtual ~Dialogos() = default;
     virtual void mostra(Dialogo d) = 0;
 
-#define SORVELO_DIALOGO_MOSTRA(nome)                                                                             \
-    void mostra##nome() { mostra(Dialogo::nome); }
+#define SORVELO_DIALOGO_MOSTRA(nome)                                                                         \
+    void mostra##nome() {                                                                                    \
+        mostra(Dialogo::nome);                                                                               \
+    }
     SORVELO_DIALOGOS(SORVELO_DIALOGO_MOSTRA)
 #undef SORVELO_DIALOGO_MOSTRA
 };
