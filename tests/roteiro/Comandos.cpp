@@ -7,6 +7,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QWidget>
 
@@ -309,8 +311,25 @@ void Roteiro::cmdMostra(const LinhaCenario& l) {
         if (QWidget* w = widget(l, nome))
             anota(QStringLiteral("%1: %2").arg(
                 nome, posicaoControle(w, [this](int px) { return janela_->deTw(px); })));
+    } else if (modo == QStringLiteral("itens")) {
+        QObject* c = controle(l, nome);
+        if (!c) return;
+        QStringList itens;
+        if (auto* combo = qobject_cast<QComboBox*>(c)) {
+            for (int i = 0; i < combo->count(); ++i)
+                itens << combo->itemText(i);
+        } else if (auto* lista = qobject_cast<QListWidget*>(c)) {
+            for (int i = 0; i < lista->count(); ++i)
+                itens << lista->item(i)->text();
+        } else {
+            return erro(l.numero, QStringLiteral("%1 não é uma caixa de lista nem de combinação").arg(nome));
+        }
+        for (int i = 0; i < itens.size(); ++i)
+            anota(QStringLiteral("%1(%2) = %3").arg(nome).arg(i).arg(aspas(itens[i])));
     } else {
-        erro(l.numero, QStringLiteral("a linha se escreve: mostra C, mostra C cores ou mostra C posição"));
+        erro(l.numero,
+             QStringLiteral(
+                 "a linha se escreve: mostra C, mostra C cores, mostra C posição ou mostra C itens"));
     }
 }
 

@@ -45,6 +45,8 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
   mostra C cores               os trechos de cor e peso de uma área de texto rico; de uma
                                célula da grade, as cores de fundo e de texto
   mostra C posição             Left, Top, Width, Height de C em twips (à precisão do pixel)
+  mostra C itens               cada item de uma caixa de lista ou combinação, um por linha,
+                               em ordem: C(0) = "…"
   estado C                     visível/oculto, habilitado/desabilitado, marcado/desmarcado
   confere C "texto"            compara o texto de C (controle, variável ou elemento)
   fecha                        fecha a janela principal, com o seu fluxo de fechamento
