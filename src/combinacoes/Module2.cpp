@@ -144,7 +144,7 @@ int GravaCombinacao(Nucleo& p, Module2& m) {
     const Int16* num = ultIndice >= 0 ? &e.VetNum(0) : nullptr;
     const Int16* pos = ultPos >= 0 ? &m.VetPos(0) : nullptr;
     const int64_t linha = m.LinhaRes.valor();
-    uint8_t codigos[82];
+    uint8_t codigos[82] = {};
     int col = 0;
     bool simples = true;
     // The excluded positions ascend strictly, so that one walk along them
