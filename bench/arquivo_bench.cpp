@@ -1,9 +1,10 @@
 // Times of the bet file: saving a bank of 1,000,000 bets (the RTF of the
 // bank included) and opening a file of 2,500 Mega-Sena bets.
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
-#include "platform/Duplos.h"
+#include "programa/Programa.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -36,12 +37,8 @@ long picoMemoriaKb() {
 
 struct Sessao {
     ServicosDuplos d;
-    Programa p;
-    Sessao() {
-        p.s = d.servicos();
-        CarregaPrincipal(p);
-        InstalaArquivo(p);
-    }
+    Programa p{d.servicos(), d.dialogos};
+    Sessao() { CarregaPrincipal(p); }
 };
 
 // A bank as a batch writer leaves it: head, bets numbered from 1, end.

@@ -1,10 +1,11 @@
 // Time and memory of a bank of a million six-number bets: the batch written
 // into VetBan and TxtBanco with the bank hidden, then shown in the view.
 // Usage: banco_bench [bets]  (default 1000000)
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
-#include "platform/Duplos.h"
 #include "platform/qt/AreaRica.h"
+#include "programa/Programa.h"
 
 #include <QApplication>
 #include <QFile>
@@ -76,8 +77,7 @@ void insereAposta(Programa& p, const std::array<int, 6>& numeros, int64_t n) {
 
 void lote(int64_t quant) {
     ServicosDuplos d;
-    Programa p;
-    p.s = d.servicos();
+    Programa p(d.servicos(), d.dialogos);
     const auto inicio = Relogio::now();
     const double cpuInicio = segundosCpu();
     CarregaPrincipal(p);
@@ -126,8 +126,7 @@ void lote(int64_t quant) {
 
 void soInsercao(int64_t quant) {
     ServicosDuplos d;
-    Programa p;
-    p.s = d.servicos();
+    Programa p(d.servicos(), d.dialogos);
     CarregaPrincipal(p);
     p.tela.TxtBanco.defineVisivel(false);
     const QString aposta = QStringLiteral("01 02 03 04 05 06 ");

@@ -5,12 +5,13 @@
 // A window with a progress bar and a counter label, shown offscreen, takes
 // the place of the dialogs, so that the yields that go to the message loop
 // pay for their painting as on the desktop.
+#include "apoio/Duplos.h"
 #include "combinacoes/Combinacao.h"
 #include "combinacoes/InsereVetor.h"
 #include "combinacoes/Module2.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "platform/Duplos.h"
+#include "programa/Programa.h"
 
 #include "platform/qt/ServicosQt.h"
 
@@ -97,7 +98,7 @@ const Cedencias EventosEspacados{"CedenciaQt (laço a cada 10 ms)", [] {
 struct Cenario {
     const char* nome;
     double meta; // seconds
-    std::function<void(Programa&, const JanelasCombinacao&)> executa;
+    std::function<void(Programa&)> executa;
 };
 
 struct Janela {
@@ -114,37 +115,37 @@ struct Janela {
 
 void roda(const Cenario& c, const Cedencias& ced, Janela& tela) {
     auto d = std::make_unique<ServicosDuplos>();
-    auto p = std::make_unique<Programa>();
-    p->s = d->servicos();
     CedenciaMedida cedencia(ced.trabalho);
-    p->s.cedencia = &cedencia;
+    Servicos servicos = d->servicos();
+    servicos.cedencia = &cedencia;
+    auto p = std::make_unique<Programa>(servicos, d->dialogos);
     CarregaPrincipal(*p);
     // Timer1 ticks inside the yields, as on the desktop.
     QTimer timer1;
     QObject::connect(&timer1, &QTimer::timeout, [&] { TickTimer1(*p); });
     timer1.start(500);
 
-    JanelasCombinacao j;
-    j.mostraCombinacoes = [](Programa& prog) {
-        Combinacoes dlg(prog);
+    Programa& prog = *p;
+    d->dialogos.quando(Dialogo::Combinacoes, [&prog] {
+        Combinacoes dlg(prog, prog.module2);
         if (prog.e.ModoFechamento && prog.tela.CmbFecha.Text == QStringLiteral("Quadra"))
             dlg.clicaAutoCompletar();
         dlg.BtnIniciar();
-    };
-    j.mostraInsereVetor = [&tela](Programa& prog) {
-        InsereVetor dlg(prog);
-        dlg.aoContar = [&tela](const QString& t) { tela.contador.setText(t); };
+    });
+    d->dialogos.quando(Dialogo::InsereVetor, [&prog, &tela] {
+        InsereVetor dlg(prog, prog.module2);
+        dlg.aoContar.liga([&tela](const QString& t) { tela.contador.setText(t); });
         dlg.ativa();
-    };
-    module2(*p).aoMudarProgresso = [&tela](const BarraProgresso& b) {
+    });
+    module2(*p).aoMudarProgresso.liga([&tela](const BarraProgresso& b) {
         tela.barra.setMaximum(int(b.Max));
         tela.barra.setValue(b.Value);
-    };
+    });
 
     const bool picoZerado = zeraPico();
     const double cpu0 = segundosDeProcessador();
     const auto t0 = Cronometro::now();
-    c.executa(*p, j);
+    c.executa(*p);
     const double segundos = std::chrono::duration<double>(Cronometro::now() - t0).count();
     const double cpu = segundosDeProcessador() - cpu0;
     const int64_t picoKB = campoStatus("VmHWM");
@@ -166,21 +167,18 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     Janela tela;
 
-    const Cenario vinte{"20 números da Mega-Sena, 6 a 6 (38.760)", 0.5,
-                        [](Programa& p, const JanelasCombinacao& j) {
+    const Cenario vinte{"20 números da Mega-Sena, 6 a 6 (38.760)", 0.5, [](Programa& p) {
                             for (int i = 0; i < 20; ++i)
                                 ClicaNumero(p, Int16(int16_t(i)));
-                            BtnIniciar(p, j);
+                            BtnIniciar(p);
                         }};
-    const Cenario quina{"Fechamento Quina da Mega-Sena (5.461.512)", 15,
-                        [](Programa& p, const JanelasCombinacao& j) {
+    const Cenario quina{"Fechamento Quina da Mega-Sena (5.461.512)", 15, [](Programa& p) {
                             p.tela.CmbFecha.Text = QStringLiteral("Quina");
-                            BtnFechar(p, j);
+                            BtnFechar(p);
                         }};
-    const Cenario quadra{"Fechamento Quadra, Auto-completar (487.635)", 3,
-                         [](Programa& p, const JanelasCombinacao& j) {
+    const Cenario quadra{"Fechamento Quadra, Auto-completar (487.635)", 3, [](Programa& p) {
                              p.tela.CmbFecha.Text = QStringLiteral("Quadra");
-                             BtnFechar(p, j);
+                             BtnFechar(p);
                          }};
 
     // "combinacoes_bench quina": only the closing of "Quina" with the cheap

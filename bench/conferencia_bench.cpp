@@ -1,11 +1,12 @@
 // Verification of the bank against a marked result: time from the press of
 // "Iniciar conferência" to "Concluído.", the raw scoring rate on one core,
 // and a long listing. Prints the figures; asserts nothing about time.
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
-#include "platform/Duplos.h"
+#include "programa/Programa.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Pontuacao.h"
 #include "relatorios/PontuacaoRapida.h"
@@ -39,12 +40,17 @@ std::string picoMemoria() {
 
 struct Ambiente {
     ServicosDuplos d;
-    Programa p;
+    Programa p{d.servicos(), d.dialogos};
     std::unique_ptr<ConfApostas> forma;
     Ambiente() {
-        p.s = d.servicos();
         CarregaPrincipal(p);
         TrocaLoteria(p, QStringLiteral("Mega-Sena"));
+        // The window, loaded when it isn't open.
+        d.dialogos.quando(Dialogo::ConfApostas, [this] {
+            if (forma && forma->aberto()) return;
+            forma = std::make_unique<ConfApostas>(p);
+            forma->Carrega();
+        });
     }
     // Random Mega-Sena bets, six distinct numbers in ascending order.
     void enche(int quant, std::mt19937& g) {
@@ -69,7 +75,7 @@ struct Ambiente {
         LimpaNumeros(p);
         for (int n : numeros)
             ClicaNumero(p, int16_t(n - 1));
-        BtnConferir(p, forma);
+        BtnConferir(p);
     }
     int64_t linhasListadas() const {
         int64_t n = 0;
@@ -104,7 +110,7 @@ int main() {
         std::printf(
             "Conferência de 1.000.000 apostas, limiar 4 (do botão a \"%s\"): melhor %.3f s, mediana %.3f s, "
             "pior %.3f s; %lld linhas listadas\n",
-            a.forma->tela.LblMensagem.toUtf8().constData(), tempos.front(), tempos[2], tempos.back(),
+            a.forma->LblMensagem.toUtf8().constData(), tempos.front(), tempos[2], tempos.back(),
             (long long)a.linhasListadas());
 
         // 2. Raw scoring rate on one core.

@@ -5,7 +5,7 @@
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "forms/RelBanco.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/qt/ServicosQt.h"
 #include "relatorios/EntraTexto.h"
 #include "relatorios/Estatisticas.h"
@@ -45,8 +45,7 @@ std::string memoria(const char* campo) {
 struct Ambiente {
     ServicosDuplos d;
     Programa p;
-    Ambiente() {
-        p.s = d.servicos();
+    explicit Ambiente(Impressora* impressora = nullptr) : p(d.servicos(nullptr, impressora), d.dialogos) {
         CarregaPrincipal(p);
         TrocaLoteria(p, QStringLiteral("Mega-Sena"));
     }
@@ -109,12 +108,12 @@ int main(int argc, char** argv) {
                 Estatisticas forma(a.p);
                 forma.Carrega();
                 forma.tela.TxtPontos.Text = QString::fromUtf8(limiar);
-                forma.mostraEntraTexto = [&] {
-                    EntraTexto prompt(a.p.e);
+                a.d.dialogos.quando(Dialogo::EntraTexto, [&] {
+                    EntraTexto prompt(a.p);
                     prompt.Carrega();
                     prompt.tela.TxtTexto.Text = QStringLiteral("1000");
                     prompt.BtnOK();
-                };
+                });
                 const auto t0 = Cronometro::now();
                 const double c0 = cpu();
                 try {
@@ -139,8 +138,15 @@ int main(int argc, char** argv) {
         }
     }
 
-    // 2. The listing of 1,000,000 bets, built and shown.
-    Ambiente a;
+    // 2. The listing of 1,000,000 bets, built and shown; 3. printed to PDF
+    // (no printer: the documents folder).
+    QTemporaryDir pasta;
+    AbridorRegistro abridor;
+    ImpressoraQt impressora;
+    impressora.impressoraPadrao = [] { return QString(); };
+    impressora.pastaDocumentos = [&] { return pasta.path(); };
+    impressora.abridor = &abridor;
+    Ambiente a(&impressora);
     a.enche(1000000, g);
     a.p.e.ArquivoBanco = QStringLiteral("/home/apostador/um-milhao.Apo");
     a.p.e.Historico = QStringLiteral("22/11/2026 14:00:00: Apostas aleatórias\r\n");
@@ -168,14 +174,7 @@ int main(int argc, char** argv) {
                 (long long)forma->tela.RTFRel.comprimento(), (long long)forma->tela.RTFRel.quantLinhas(),
                 memoria("VmHWM:").c_str());
 
-    // 3. That listing printed to PDF (no printer: the documents folder).
-    QTemporaryDir pasta;
-    AbridorRegistro abridor;
-    ImpressoraQt impressora;
-    impressora.impressoraPadrao = [] { return QString(); };
-    impressora.pastaDocumentos = [&] { return pasta.path(); };
-    impressora.abridor = &abridor;
-    a.p.s.impressora = &impressora;
+    // 3. That listing printed to PDF.
     const auto t0 = Cronometro::now();
     const double c0 = cpu();
     forma->BtnImprimir();

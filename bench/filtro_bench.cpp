@@ -15,7 +15,7 @@
 #include "edicao/Eliminar.h"
 #include "edicao/Filtrar.h"
 #include "forms/Filtrar.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/qt/ServicosQt.h"
 
 #include "../tests/unit/ReferenciaFiltro.h"
@@ -122,11 +122,9 @@ void insereAposta(Programa& p, const Aposta& a, int64_t n) {
 struct Bancada {
     ServicosDuplos d;
     CedenciaQt cedencia;
-    Programa p;
+    Programa p{d.servicos(&cedencia), d.dialogos};
     double rssAntes = 0, rssBanco = 0;
     explicit Bancada(const std::vector<Aposta>& lista) {
-        p.s = d.servicos();
-        p.s.cedencia = &cedencia;
         CarregaPrincipal(p);
         rssAntes = campoStatusMB("VmRSS");
         p.tela.TxtBanco.defineVisivel(false);
@@ -187,9 +185,7 @@ void filtro(const char* nome, bool todas) {
 void lotomania() {
     ServicosDuplos d;
     CedenciaQt cedencia;
-    Programa p;
-    p.s = d.servicos();
-    p.s.cedencia = &cedencia;
+    Programa p{d.servicos(&cedencia), d.dialogos};
     CarregaPrincipal(p);
     const double rssAntes = campoStatusMB("VmRSS");
     std::mt19937 rng(11);

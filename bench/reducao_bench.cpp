@@ -12,8 +12,9 @@
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
+#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 
 #include "platform/qt/ServicosQt.h"
 
@@ -67,11 +68,12 @@ struct Resultado {
 // shown, with every dialog, label and yield of the run.
 Resultado rodaFluxo(int ate, const QString& garantia) {
     auto d = std::make_unique<ServicosDuplos>();
-    auto p = std::make_unique<Programa>();
     CedenciaQt cedencia;
-    p->s = d->servicos();
-    p->s.cedencia = &cedencia;
-    Sorvelo janela(*p);
+    Servicos servicos = d->servicos();
+    servicos.cedencia = &cedencia;
+    JanelasFormas janelas;
+    auto p = std::make_unique<Programa>(servicos, janelas);
+    Sorvelo janela(*p, janelas);
     janela.show();
     for (int n = 1; n <= ate; ++n)
         ClicaNumero(*p, Int16(int16_t(n - 1)));

@@ -6,7 +6,8 @@
 #include "core/Principal.h"
 #include "edicao/Digitacao.h"
 #include "edicao/Sortear.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
+#include "programa/Programa.h"
 
 #include <array>
 #include <chrono>
@@ -56,8 +57,7 @@ void encheBanco(Programa& p, int64_t quant) {
 int main(int argc, char** argv) {
     const int64_t banco = argc > 1 ? std::atoll(argv[1]) : 1000000;
     ServicosDuplos d;
-    Programa p;
-    p.s = d.servicos();
+    Programa p{d.servicos(), d.dialogos};
     CarregaPrincipal(p);
     encheBanco(p, banco);
 

@@ -10,7 +10,8 @@
 #include "core/Grade.h"
 #include "core/Module1.h"
 #include "core/Principal.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
+#include "programa/Programa.h"
 #include "platform/qt/ServicosQt.h"
 #include "relatorios/Pontuacao.h"
 
@@ -109,9 +110,7 @@ int main(int argc, char** argv) {
     for (int i = 0; i < 7; ++i) {
         ServicosDuplos d;
         CedenciaQt cedencia;
-        Programa p;
-        p.s = d.servicos();
-        p.s.cedencia = &cedencia;
+        Programa p{d.servicos(&cedencia), d.dialogos};
         d.pasta.define(pasta.path());
         CarregaPrincipal(p);
         for (int n = 1; n <= 30; ++n)

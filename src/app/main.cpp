@@ -4,6 +4,7 @@
 // file named on the command line, if any, as Abrir does.
 #include "core/ArquivoInicial.h"
 #include "forms/Apresenta.h"
+#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
 #include "platform/qt/ServicosQt.h"
 
@@ -15,17 +16,18 @@ int main(int argc, char** argv) {
     sorvelo::instalaTraducao();
 
     sorvelo::ServicosQt servicos;
-    sorvelo::Programa programa;
-    programa.s = servicos.servicos();
+    sorvelo::JanelasFormas janelas;
+    sorvelo::Programa programa(servicos.servicos(), janelas);
 
-    sorvelo::JanelaApresenta apresenta(programa,
+    auto fazPrincipal = [&programa, &janelas]() -> std::unique_ptr<QWidget> {
+        auto janela = std::make_unique<sorvelo::Sorvelo>(programa, janelas);
+        QObject::connect(janela.get(), &sorvelo::Sorvelo::encerrado, [] { QCoreApplication::exit(0); });
+        return janela;
+    };
+    sorvelo::JanelaApresenta apresenta(programa, fazPrincipal,
                                        sorvelo::ArquivoDaLinhaDeComando(QCoreApplication::arguments()));
     QObject::connect(&apresenta, &sorvelo::JanelaApresenta::encerrado, &app,
                      [] { QCoreApplication::exit(0); });
-    QObject::connect(
-        &apresenta, &sorvelo::JanelaApresenta::principalAberta, &app, [&app](sorvelo::Sorvelo* j) {
-            QObject::connect(j, &sorvelo::Sorvelo::encerrado, &app, [] { QCoreApplication::exit(0); });
-        });
     apresenta.show();
     return QApplication::exec();
 }

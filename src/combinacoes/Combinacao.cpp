@@ -1,9 +1,9 @@
-#include "Combinacao.h"
+#include "combinacoes/Combinacao.h"
 
-#include "../core/BancoApostas.h"
-#include "../core/Grade.h"
-#include "../core/Loteria.h"
-#include "Estatistica.h"
+#include "combinacoes/Estatistica.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
+#include "core/Loteria.h"
 
 namespace sorvelo {
 
@@ -11,7 +11,7 @@ namespace {
 const QString CRLF = QStringLiteral("\r\n");
 }
 
-Combinacoes::Combinacoes(Programa& p) : p_(p) {
+Combinacoes::Combinacoes(Nucleo& p, Module2& m) : LogicaDialogo(p, Cancelar::MarcaCancelado), m_(m) {
     const auto& e = p.e;
     LblDezComb = formata00(e.QuantEscolhidos.valor());
     LblDezCart = formata00(e.DezAposta.valor());
@@ -24,32 +24,15 @@ Combinacoes::Combinacoes(Programa& p) : p_(p) {
 }
 
 void Combinacoes::clicaEstatistica() {
-    if (aberto_ && ChkEstVisible && ChkEst.Enabled) ChkEst.Value = !ChkEst.Value;
+    if (aberto() && ChkEstVisible && ChkEst.Enabled) ChkEst.Value = !ChkEst.Value;
 }
 
 void Combinacoes::clicaAutoCompletar() {
-    if (aberto_ && ChkAutoVisible && ChkAuto.Enabled) ChkAuto.Value = !ChkAuto.Value;
-}
-
-void Combinacoes::mensagem(const QString& texto) {
-    LblMensagem = texto;
-    if (aoMudarMensagem) aoMudarMensagem();
-}
-
-void Combinacoes::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
-}
-
-void Combinacoes::BtnCancelar() {
-    p_.e.Cancelado = true;
-    fecha();
+    if (aberto() && ChkAutoVisible && ChkAuto.Enabled) ChkAuto.Value = !ChkAuto.Value;
 }
 
 void Combinacoes::BtnIniciar() {
     auto& e = p_.e;
-    Module2& m = module2(p_);
     e.Historico += p_.agoraTexto() + QStringLiteral(": Combinação de ") + LblDezComb +
                    QStringLiteral(" números ") + QStringLiteral(" de ") + LblDezCart +
                    QStringLiteral(" em ") + LblDezCart + CRLF;
@@ -57,18 +40,18 @@ void Combinacoes::BtnIniciar() {
         e.Historico += p_.agoraTexto() + QStringLiteral(": Foi selecionada a opção Auto-Completar.") + CRLF;
     CarregaNumeros(p_);
     e.ComEstatistica = ChkEst.Value;
-    m.AutoCompletar = ChkAuto.Value ? 1 : 0;
-    IniciaProgresso(p_, e.TotalApostas);
+    m_.AutoCompletar = ChkAuto.Value ? 1 : 0;
+    IniciaProgresso(p_, m_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
+    if (CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
         // A dialog closed by its cancel during the run is gone: its check
         // box reads as at a new load, unchecked, and no count is made.
-        if (aberto_ && ChkEst.Value) {
-            IniciaProgresso(p_, e.TotalApostas * 6);
+        if (aberto() && ChkEst.Value) {
+            IniciaProgresso(p_, m_, e.TotalApostas * 6);
             mensagem(QStringLiteral("Fazendo estatística de acertos..."));
             p_.s.cedencia->cede();
-            FazEstatistica(p_, e.NomeLoteria, e.TotalApostas);
+            FazEstatistica(p_, m_, e.NomeLoteria, e.TotalApostas);
         }
         mensagem(QString());
         fecha();
@@ -85,14 +68,14 @@ Int16 DezenasDoFechamento(const QString& texto) {
 }
 
 namespace {
-void contaEPreco(Programa& p) {
+void contaEPreco(Nucleo& p) {
     auto& e = p.e;
     e.TotalApostas = ArredondaApostas(RetQuantCombinacoes(e.QuantEscolhidos, e.DezAposta));
     e.ValorAposta = valorNumerico(RetValorNumerico(p.tela.TxtValAp.Text, false));
 }
 } // namespace
 
-bool PreparaCombinacao(Programa& p) {
+bool PreparaCombinacao(Nucleo& p) {
     auto& e = p.e;
     e.Cancelado = false;
     e.ModoReduzido = false;
@@ -106,7 +89,7 @@ bool PreparaCombinacao(Programa& p) {
     return true;
 }
 
-void PreparaFechamento(Programa& p) {
+void PreparaFechamento(Nucleo& p) {
     auto& e = p.e;
     e.Cancelado = false;
     e.Historico += p.agoraTexto() + QStringLiteral(": Fechamento completo de ") + p.tela.CmbFecha.Text + CRLF;
@@ -122,7 +105,7 @@ void PreparaFechamento(Programa& p) {
     contaEPreco(p);
 }
 
-void ConcluiCombinacao(Programa& p, const JanelasCombinacao& janelas) {
+void ConcluiCombinacao(Nucleo& p) {
     auto& e = p.e;
     if (e.Cancelado) return;
     if (!p.tela.TxtBanco.texto().isEmpty()) {
@@ -130,23 +113,24 @@ void ConcluiCombinacao(Programa& p, const JanelasCombinacao& janelas) {
                                 Botoes::SimNao, Resposta::Nao) == Resposta::Sim)
             LimpaBancoApostas(p);
     }
-    janelas.mostraInsereVetor(p);
-    if (e.ComEstatistica && janelas.caretNoFim) janelas.caretNoFim(p);
+    p.dialogos.mostraInsereVetor();
+    // The statistics at the end of the bank, in sight.
+    if (e.ComEstatistica) p.tela.TxtBanco.caretNoFim();
 }
 
-void BtnIniciar(Programa& p, const JanelasCombinacao& janelas) {
+void BtnIniciar(Nucleo& p) {
     if (!PreparaCombinacao(p)) return;
-    janelas.mostraCombinacoes(p);
-    ConcluiCombinacao(p, janelas);
+    p.dialogos.mostraCombinacoes();
+    ConcluiCombinacao(p);
 }
 
-void BtnFechar(Programa& p, const JanelasCombinacao& janelas) {
+void BtnFechar(Nucleo& p) {
     PreparaFechamento(p);
     p.e.ModoFechamento = true;
-    janelas.mostraCombinacoes(p);
+    p.dialogos.mostraCombinacoes();
     p.e.ModoFechamento = false;
     LimpaNumeros(p);
-    ConcluiCombinacao(p, janelas);
+    ConcluiCombinacao(p);
 }
 
 } // namespace sorvelo

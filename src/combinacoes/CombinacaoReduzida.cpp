@@ -1,9 +1,9 @@
-#include "CombinacaoReduzida.h"
+#include "combinacoes/CombinacaoReduzida.h"
 
-#include "../core/BancoApostas.h"
-#include "../core/Grade.h"
-#include "../core/Loteria.h"
-#include "../relatorios/Pontuacao.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
+#include "core/Loteria.h"
+#include "relatorios/Pontuacao.h"
 
 namespace sorvelo {
 
@@ -11,28 +11,13 @@ namespace {
 const QString CRLF = QStringLiteral("\r\n");
 }
 
-CombinacoesReduz::CombinacoesReduz(Programa& p) : p_(p) {
+CombinacoesReduz::CombinacoesReduz(Nucleo& p, Module2& m)
+    : LogicaDialogo(p, Cancelar::MarcaCancelado), m_(m) {
     const auto& e = p.e;
     LblDezComb = formata00(e.QuantEscolhidos.valor());
     LblDezApo = formata00(e.DezFinal.valor());
     LblGarantia = p.tela.CmbGarantia.Text + u' ';
     LblAcertar = p.tela.CmbAcertar.Text;
-}
-
-void CombinacoesReduz::mensagem(const QString& texto) {
-    LblMensagem = texto;
-    if (aoMudarMensagem) aoMudarMensagem();
-}
-
-void CombinacoesReduz::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
-}
-
-void CombinacoesReduz::BtnCancelar() {
-    p_.e.Cancelado = true;
-    fecha();
 }
 
 void CombinacoesReduz::BtnIniciar() {
@@ -41,10 +26,10 @@ void CombinacoesReduz::BtnIniciar() {
                    QStringLiteral(" se acertar ") + LblAcertar +
                    QStringLiteral(" números dentro das dezenas escolhidas.") + CRLF;
     CarregaNumeros(p_);
-    IniciaProgresso(p_, e.TotalApostas);
+    IniciaProgresso(p_, m_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
+    if (CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
         mensagem(QString());
         fecha();
     } else {
@@ -59,12 +44,12 @@ Int16 DezenasDaGarantia(const QString& texto) {
     return palavra ? Int16(int16_t(palavra)) : d;
 }
 
-void CliqueReduzir(Programa& p, bool marcado) {
+void CliqueReduzir(Nucleo& p, bool marcado) {
     p.tela.ChkReduzir.Value = marcado;
     p.tela.CmbAcertar.Enabled = marcado;
 }
 
-bool PreparaReducao(Programa& p) {
+bool PreparaReducao(Nucleo& p) {
     auto& e = p.e;
     auto& t = p.tela;
     // The bank is emptied before any check; a Cancel of its save question
@@ -96,14 +81,14 @@ bool PreparaReducao(Programa& p) {
     return true;
 }
 
-void BtnReduz(Programa& p, const JanelasReducao& janelas) {
+void BtnReduz(Nucleo& p) {
     if (!PreparaReducao(p)) return;
     if (p.tela.ChkReduzir.Value) {
-        if (janelas.mostraCombSuperReduz) janelas.mostraCombSuperReduz(p);
+        p.dialogos.mostraCombSuperReduz();
         return;
     }
-    janelas.mostraCombinacoesReduz(p);
-    if (!p.e.Cancelado) janelas.mostraInsereVetorReduz(p);
+    p.dialogos.mostraCombinacoesReduz();
+    if (!p.e.Cancelado) p.dialogos.mostraInsereVetorReduz();
 }
 
 } // namespace sorvelo

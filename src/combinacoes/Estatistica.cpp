@@ -1,6 +1,6 @@
-#include "Estatistica.h"
+#include "combinacoes/Estatistica.h"
 
-#include "../core/Module1.h"
+#include "core/Module1.h"
 
 namespace sorvelo {
 
@@ -14,8 +14,7 @@ double valorCelula(const MatrizTexto& vet, int64_t coluna, int64_t linha) {
 }
 
 // Whether the row holds each of the c values that `alvo` gives.
-template <typename Alvo> bool linhaTem(Programa& p, Int32 linha, Int16 c, Alvo alvo) {
-    Module2& m = module2(p);
+template <typename Alvo> bool linhaTem(Nucleo& p, Module2& m, Int32 linha, Int16 c, Alvo alvo) {
     if (m.Contado(linha.valor())) return false;
     if (c < 1) return false;
     for (int64_t idx = 0; idx < c.valor(); ++idx) {
@@ -33,31 +32,28 @@ template <typename Alvo> bool linhaTem(Programa& p, Int32 linha, Int16 c, Alvo a
     return true;
 }
 
-void passeDezenas(Programa& p, Int16 c, Int16& contador) {
-    Module2& m = module2(p);
+void passeDezenas(Nucleo& p, Module2& m, Int16 c, Int16& contador) {
     contador = 0;
     for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
-        if (JogoTemDezenas(p, linha, c)) contador += 1;
-        AvancaProgresso(p);
+        if (JogoTemDezenas(p, m, linha, c)) contador += 1;
+        AvancaProgresso(p, m);
     }
 }
 
-void passeSubconjuntos(Programa& p, Int16 k, Int16 n, Int16& contador) {
-    Module2& m = module2(p);
+void passeSubconjuntos(Nucleo& p, Module2& m, Int16 k, Int16 n, Int16& contador) {
     contador = 0;
-    GeraSubconjuntos(p, k, n);
+    GeraSubconjuntos(p, m, k, n);
     for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
         for (Int32 j = 0; j < m.QuantSub; ++j)
-            if (JogoTemSubconjunto(p, linha, j, k)) contador += 1;
-        AvancaProgresso(p);
+            if (JogoTemSubconjunto(p, m, linha, j, k)) contador += 1;
+        AvancaProgresso(p, m);
     }
 }
 
-int gravaSubconjunto(Programa& p, Int32 ultimo) {
-    Module2& m = module2(p);
+int gravaSubconjunto(Nucleo& p, Module2& m, Int32 ultimo) {
     Int16 col = 0;
     for (Int32 idx = 0; idx <= ultimo; ++idx) {
-        if (PosicaoExcluida(p, idx)) continue;
+        if (PosicaoExcluida(p, m, idx)) continue;
         m.Sub(m.QuantSub.valor(), col.valor()) = m.VetSubBase(idx.valor());
         ++col;
     }
@@ -66,8 +62,7 @@ int gravaSubconjunto(Programa& p, Int32 ultimo) {
 }
 } // namespace
 
-void IniciaEstatistica(Programa& p, Int32 total) {
-    Module2& m = module2(p);
+void IniciaEstatistica(Nucleo& p, Module2& m, Int32 total) {
     m.VetContado.assign(size_t(int64_t(total.valor()) + 1), 0);
     for (int i = 0; i <= 5; ++i)
         m.VetAcerto(i) = p.e.VetNum(i);
@@ -76,80 +71,53 @@ void IniciaEstatistica(Programa& p, Int32 total) {
     m.DezPorCartao = p.e.DezAposta;
 }
 
-bool JogoTemDezenas(Programa& p, Int32 linha, Int16 c) {
-    Module2& m = module2(p);
-    return linhaTem(p, linha, c, [&](int64_t idx) { return int64_t(m.VetAcerto(idx).valor()); });
+bool JogoTemDezenas(Nucleo& p, Module2& m, Int32 linha, Int16 c) {
+    return linhaTem(p, m, linha, c, [&](int64_t idx) { return int64_t(m.VetAcerto(idx).valor()); });
 }
 
-bool JogoTemSubconjunto(Programa& p, Int32 linha, Int32 j, Int16 c) {
-    Module2& m = module2(p);
-    return linhaTem(p, linha, c, [&](int64_t idx) { return int64_t(m.Sub(j.valor(), idx).valor()); });
+bool JogoTemSubconjunto(Nucleo& p, Module2& m, Int32 linha, Int32 j, Int16 c) {
+    return linhaTem(p, m, linha, c, [&](int64_t idx) { return int64_t(m.Sub(j.valor(), idx).valor()); });
 }
 
-void LimpaContados(Programa& p) {
-    Module2& m = module2(p);
+void LimpaContados(Nucleo&, Module2& m) {
     for (Int32 linha = 0; linha < m.LinhaRes; ++linha)
         m.Contado(linha.valor()) = 0;
 }
 
-void GeraSubconjuntos(Programa& p, Int16 k, Int16 n) {
-    Module2& m = module2(p);
+void GeraSubconjuntos(Nucleo& p, Module2& m, Int16 k, Int16 n) {
     const Int32 ultimo = Int32(n.valor()) - 1;
-    m.UltPos = Int32(n.valor()) - 1 - k.valor();
-    for (Int32 i = 0; i <= m.UltPos; ++i) {
-        m.VetPos(i.valor()) = Int16::de(int64_t(i.valor()));
-        m.VetMax(i.valor()) = Int16::de(int64_t((ultimo - (m.UltPos - i)).valor()));
-    }
+    IniciaPosicoes(m, n, k);
     m.QuantSub = 0;
-    for (;;) {
-        if (gravaSubconjunto(p, ultimo) == 1) return;
-        const int64_t ult = m.UltPos.valor();
-        if (m.VetPos(ult) < m.VetMax(ult)) {
-            m.VetPos(ult) += 1;
-            continue;
-        }
-        Int32 q = m.UltPos;
-        for (;;) {
-            q -= 1;
-            if (q < 0) break;
-            m.VetPos(q.valor()) += 1;
-            if (m.VetPos(q.valor()) < m.VetMax(q.valor())) break;
-            // Unlike the generator, the last subset written here does not end
-            // the run: the tail is reset and the main loop writes it again.
-            if (gravaSubconjunto(p, ultimo) == 1) break;
-        }
-        for (Int32 j = q + 1; j <= m.UltPos; ++j)
-            m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
-    }
+    // Unlike the generator, a last subset written in a carry does not end
+    // the run: the tail is reset and the main loop writes it again.
+    PercorreCombinacoes(m, FimNoTransporte::Continua, [&] { return gravaSubconjunto(p, m, ultimo); });
 }
 
-void FazEstatistica(Programa& p, const QString& jogo, Int32 total) {
-    Module2& m = module2(p);
-    IniciaEstatistica(p, total);
+void FazEstatistica(Nucleo& p, Module2& m, const QString& jogo, Int32 total) {
+    IniciaEstatistica(p, m, total);
     const QString nome = jogo.toUpper();
     if (nome == QStringLiteral("MEGA-SENA") || nome == QStringLiteral("DUPLA SENA")) {
-        passeDezenas(p, 4, m.QuantQuadras(0));
-        LimpaContados(p);
-        passeDezenas(p, 5, m.QuantQuinas(0));
-        passeSubconjuntos(p, 4, 5, m.QuantQuadras(1));
-        LimpaContados(p);
-        passeDezenas(p, 6, m.QuantSenas);
-        passeSubconjuntos(p, 5, 6, m.QuantQuinas(1));
-        passeSubconjuntos(p, 4, 6, m.QuantQuadras(2));
+        passeDezenas(p, m, 4, m.QuantQuadras(0));
+        LimpaContados(p, m);
+        passeDezenas(p, m, 5, m.QuantQuinas(0));
+        passeSubconjuntos(p, m, 4, 5, m.QuantQuadras(1));
+        LimpaContados(p, m);
+        passeDezenas(p, m, 6, m.QuantSenas);
+        passeSubconjuntos(p, m, 5, 6, m.QuantQuinas(1));
+        passeSubconjuntos(p, m, 4, 6, m.QuantQuadras(2));
     } else if (nome == QStringLiteral("QUINA")) {
-        passeDezenas(p, 3, m.QuantTernos(0));
-        LimpaContados(p);
-        passeDezenas(p, 4, m.QuantQuadras(0));
-        passeSubconjuntos(p, 3, 4, m.QuantTernos(1));
-        LimpaContados(p);
-        passeDezenas(p, 5, m.QuantQuinas(0));
-        passeSubconjuntos(p, 4, 5, m.QuantQuadras(1));
-        passeSubconjuntos(p, 3, 5, m.QuantTernos(2));
+        passeDezenas(p, m, 3, m.QuantTernos(0));
+        LimpaContados(p, m);
+        passeDezenas(p, m, 4, m.QuantQuadras(0));
+        passeSubconjuntos(p, m, 3, 4, m.QuantTernos(1));
+        LimpaContados(p, m);
+        passeDezenas(p, m, 5, m.QuantQuinas(0));
+        passeSubconjuntos(p, m, 4, 5, m.QuantQuadras(1));
+        passeSubconjuntos(p, m, 3, 5, m.QuantTernos(2));
     }
 }
 
-QString RetornaEstatistica(Programa& p) {
-    Module2& m = module2(p);
+QString RetornaEstatistica(Nucleo& p, Module2& m) {
     auto n = [](Int16 v) { return TextoInteiro(v.valor()); };
     const QString crlf = QStringLiteral("\r\n");
     QString t;

@@ -1,9 +1,9 @@
-#include "InsereVetor.h"
+#include "combinacoes/InsereVetor.h"
 
-#include "../core/Loteria.h"
+#include "core/Loteria.h"
 
-#include "../core/BancoApostas.h"
-#include "Estatistica.h"
+#include "combinacoes/Estatistica.h"
+#include "core/BancoApostas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +43,7 @@ Int16 TamanhoJogoDe(const QString& nomeLoteria) {
     return j && j->nomeMaiusculo == nomeLoteria ? Int16(int16_t(j->spin)) : Int16(0);
 }
 
-InsereVetor::InsereVetor(Programa& p) : p_(p) {
+InsereVetor::InsereVetor(Nucleo& p, Module2& m) : LogicaDialogo(p, Cancelar::MarcaCancelado), m_(m) {
     TamanhoJogo = TamanhoJogoDe(p.e.NomeLoteria);
     MaiorNumero = p.e.NumFim;
     randomizeRelogio(*p.s.aleatorio, *p.s.relogio);
@@ -53,25 +53,17 @@ InsereVetor::InsereVetor(Programa& p) : p_(p) {
 void InsereVetor::ativa() {
     LblCont = QStringLiteral("0");
     LblTotal = QStringLiteral("de ") + textoNumero(int64_t(p_.e.TotalApostas.valor()));
-    if (aoMostrarRotulos) aoMostrarRotulos();
+    aoMostrarRotulos();
     if (!Iniciado) {
         InsereVetRes(p_.e.DezAposta);
         Iniciado = true;
     }
 }
 
-void InsereVetor::BtnCancelar() {
-    p_.e.Cancelado = true;
-    fecha();
-}
-
-void InsereVetor::fecha() {
+void InsereVetor::fechando() {
     p_.tela.TxtBanco.defineVisivel(true);
     p_.e.VetRes.apaga();
     p_.e.VetRes.redimensiona(81, 1);
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 void InsereVetor::InsereVetRes(Int16 k) {
@@ -94,12 +86,12 @@ void InsereVetor::InsereVetRes(Int16 k) {
         LinhaOrigem -= 1;
         if (Cont.valor() % 13 == 0) {
             LblCont = textoNumero(int64_t(Cont.valor()));
-            if (aoContar) aoContar(LblCont);
+            aoContar(LblCont);
             p_.s.cedencia->cede();
         }
     }
     if (e.ComEstatistica) {
-        const QString texto = CRLF + RetornaEstatistica(p_) + CRLF + CRLF + CRLF;
+        const QString texto = CRLF + RetornaEstatistica(p_, m_) + CRLF + CRLF + CRLF;
         banco.acrescenta(texto, CorLog, true);
     }
     InsereLinhaBanco(p_, CRLF, true);
@@ -137,11 +129,10 @@ QString InsereVetor::apostaDaLista(Int16& i) {
 
 QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
     auto& e = p_.e;
-    const Module2& m = module2(p_);
     LstSort.clear();
     tenta([&] { e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor()); });
     const int64_t destino = e.QuantBan.valor();
-    const bool comLista = m.AutoCompletar == 1 || !e.VetFixos(0).isEmpty();
+    const bool comLista = m_.AutoCompletar == 1 || !e.VetFixos(0).isEmpty();
     QString texto;
     texto.reserve(3 * std::max<int>(k.valor(), TamanhoJogo.valor()) + 3);
 
@@ -176,7 +167,7 @@ QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
         tenta([&] { e.VetBan.define(i.valor(), destino, v); });
         if (comLista) adicionaLista(v);
     }
-    if (m.AutoCompletar == 1) {
+    if (m_.AutoCompletar == 1) {
         Int16 j = i;
         while (j < TamanhoJogo) {
             const float x = float(MaiorNumero.valor() + 1) * p_.s.aleatorio->rnd();

@@ -5,27 +5,21 @@
 // the work runs when the dialog first comes to the front.
 #pragma once
 
-#include "Module2.h"
+#include "combinacoes/Module2.h"
+#include "core/LogicaDialogo.h"
 
 #include <QStringList>
 
-#include <functional>
-
 namespace sorvelo {
 
-class InsereVetor {
+class InsereVetor : public LogicaDialogo {
 public:
     // The dialog's load: the size of a full bet, the highest number, the
     // random numbers seeded from the clock.
-    explicit InsereVetor(Programa& p);
+    InsereVetor(Nucleo& p, Module2& m);
 
     // Coming to the front: the labels, then the whole run, once.
     void ativa();
-    // "Cancelar": Cancelado and the close of the dialog.
-    void BtnCancelar();
-    // The close, by whichever way: TxtBanco shown, VetRes shrunk.
-    void fecha();
-    bool aberto() const { return aberto_; }
 
     void InsereVetRes(Int16 k);
     // Writes the bet of a row of VetRes into VetBan at row QuantBan and
@@ -38,10 +32,9 @@ public:
     QString LblCont, LblTotal;
     // Told when the dialog comes to the front and its labels are set, before
     // the run, so that the form shows them during it.
-    std::function<void()> aoMostrarRotulos;
-    // Told when LblCont changes (every 13 bets) and when the dialog closes.
-    std::function<void(const QString&)> aoContar;
-    std::function<void()> aoFechar;
+    Aviso<> aoMostrarRotulos;
+    // Told when LblCont changes (every 13 bets), before the yield.
+    Aviso<const QString&> aoContar;
 
     // Fields of the dialog.
     Int16 TamanhoJogo;
@@ -50,13 +43,16 @@ public:
     Int32 Cont;
     Int32 LinhaOrigem;
 
+protected:
+    // The close, by whichever way: TxtBanco shown, VetRes shrunk.
+    void fechando() override;
+
 private:
     void adicionaLista(const QString& item);
     QString apostaDaLista(Int16& i);
 
-    Programa& p_;
+    Module2& m_;
     QStringList LstSort; // sorted as text, as the hidden list box
-    bool aberto_ = true;
 };
 
 // The size of a full bet of the game: Mega-Sena 6, Quina 5, Lotomania 50...

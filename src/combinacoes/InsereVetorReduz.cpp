@@ -1,7 +1,7 @@
-#include "InsereVetorReduz.h"
+#include "combinacoes/InsereVetorReduz.h"
 
-#include "../core/BancoApostas.h"
-#include "Reducao.h"
+#include "core/BancoApostas.h"
+#include "combinacoes/Reducao.h"
 
 #include <algorithm>
 #include <new>
@@ -58,11 +58,8 @@ void acrescentaLinha(Reducao& red, const Alfabeto& alf, const MatrizTexto& banco
 }
 } // namespace
 
-InsereVetorReduz::InsereVetorReduz(Programa& p) : p_(p) {}
-
-void InsereVetorReduz::mensagem(const QString& texto) {
-    LblMensagem = texto;
-    if (aoMudarMensagem) aoMudarMensagem();
+InsereVetorReduz::InsereVetorReduz(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {
+    LblMensagem = QStringLiteral("Inserindo jogos no banco de apostas...");
 }
 
 void InsereVetorReduz::conta(const QString& texto) {
@@ -89,14 +86,11 @@ void InsereVetorReduz::BtnCancelar() {
     fecha();
 }
 
-void InsereVetorReduz::fecha() {
+void InsereVetorReduz::fechando() {
     p_.tela.TxtBanco.defineVisivel(true);
     p_.e.VetRes.apaga();
     p_.e.VetRes.redimensiona(81, 1);
     p_.e.EmReducao = false;
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 void InsereVetorReduz::esvaziaBanco() {

@@ -13,7 +13,8 @@
 // insertion runs on to its end.
 #pragma once
 
-#include "Module2.h"
+#include "combinacoes/Module2.h"
+#include "core/LogicaDialogo.h"
 
 #include <QStringList>
 
@@ -21,19 +22,16 @@
 
 namespace sorvelo {
 
-class InsereVetorReduz {
+class InsereVetorReduz : public LogicaDialogo {
 public:
     enum class Fase { Parado, Combinando, Reduzindo, Inserindo };
 
     // The dialog's load.
-    explicit InsereVetorReduz(Programa& p);
+    explicit InsereVetorReduz(Nucleo& p);
 
     // Coming to the front: the whole run, once (EmReducao guards it).
     void ativa();
-    void BtnCancelar();
-    // The close, by whichever way: TxtBanco shown, VetRes shrunk.
-    void fecha();
-    bool aberto() const { return aberto_; }
+    void BtnCancelar() override;
     Fase fase() const { return fase_; }
 
     void IniciaReducao();
@@ -46,28 +44,26 @@ public:
     QString RetAposta(Int32 linha);
 
     // Controls.
-    QString LblMensagem = QStringLiteral("Inserindo jogos no banco de apostas...");
     QString LblCont, LblTotal;
-    // Told when a label changes and when the dialog closes.
-    std::function<void()> aoMudarMensagem;
+    // Told when the count changes.
     std::function<void(const QString&)> aoContar;
-    std::function<void()> aoFechar;
 
     // Fields of the dialog.
     Int32 QuantFinal;
     Int16 DezUltimo;
 
+protected:
+    // The close, by whichever way: TxtBanco shown, VetRes shrunk.
+    void fechando() override;
+
 private:
-    void mensagem(const QString& texto);
     void conta(const QString& texto);
     // A yield; true when a cancel came during it.
     bool cedeECancelou();
     void esvaziaBanco();
     void adicionaLista(const QString& item);
 
-    Programa& p_;
     Fase fase_ = Fase::Parado;
-    bool aberto_ = true;
     bool cancelado_ = false;
     QStringList LstSort; // sorted as text, as the hidden list box
 };

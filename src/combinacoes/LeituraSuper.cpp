@@ -1,6 +1,6 @@
-#include "LeituraSuper.h"
+#include "combinacoes/LeituraSuper.h"
 
-#include "../core/Cp1252.h"
+#include "core/Cp1252.h"
 
 #include <QFile>
 #include <QFileInfo>

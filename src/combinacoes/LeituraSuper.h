@@ -10,8 +10,8 @@
 // begin ends a row, and "##" there ends the block.
 #pragma once
 
-#include "../core/MatrizTexto.h"
-#include "../core/Semantica.h"
+#include "base/MatrizTexto.h"
+#include "base/Semantica.h"
 
 #include <QByteArray>
 #include <QString>

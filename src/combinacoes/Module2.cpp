@@ -1,6 +1,6 @@
-#include "Module2.h"
+#include "combinacoes/Module2.h"
 
-#include "../core/Module1.h"
+#include "core/Module1.h"
 
 #include <algorithm>
 #include <new>
@@ -66,11 +66,6 @@ uint8_t& Module2::Contado(int64_t linha) {
     return VetContado[size_t(linha)];
 }
 
-Module2& module2(Programa& p) {
-    if (!p.module2) p.module2 = std::make_shared<Module2>();
-    return *p.module2;
-}
-
 int64_t BytesPorLinha(int k) {
     if (k < 0) k = 0;
     // VetRes and VetBan: a row index of 16 bytes and one byte a cell (and
@@ -92,7 +87,7 @@ void verificaMemoria(const Module2& m, Int32 total, Int16 k) {
     if (linhas > m.limiteMemoria / BytesPorLinha(k.valor())) throw FalhaExecucao(erro::MemoriaInsuficiente);
 }
 
-void preparaVetRes(Programa& p, Module2& m, Int16 k, Int32 total) {
+void preparaVetRes(Nucleo& p, Module2& m, Int16 k, Int32 total) {
     const int64_t linhas = int64_t(total.valor()) + 1;
     p.e.VetRes.redimensiona(81, total.valor());
     p.e.VetRes.reserva(linhas, size_t(linhas) * size_t(std::clamp<int>(k.valor(), 0, 82)));
@@ -100,38 +95,24 @@ void preparaVetRes(Programa& p, Module2& m, Int16 k, Int32 total) {
 }
 } // namespace
 
-bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
-    Module2& m = module2(p);
+void IniciaPosicoes(Module2& m, Int16 n, Int16 k) {
+    const Int32 ultimo = Int32(n.valor()) - 1;
+    m.UltPos = ultimo - k.valor();
+    for (Int32 i = 0; i <= m.UltPos; ++i) {
+        m.VetPos(i.valor()) = Int16::de(int64_t(i.valor()));
+        m.VetMax(i.valor()) = Int16::de(int64_t((ultimo - (m.UltPos - i)).valor()));
+    }
+}
+
+bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total) {
     try {
         verificaMemoria(m, total, k);
         preparaVetRes(p, m, k, total);
         m.UltIndice = Int32(n.valor()) - 1;
-        m.UltPos = Int32(n.valor()) - 1 - k.valor();
-        for (Int32 i = 0; i <= m.UltPos; ++i) {
-            m.VetPos(i.valor()) = Int16::de(int64_t(i.valor()));
-            m.VetMax(i.valor()) = Int16::de(int64_t((m.UltIndice - (m.UltPos - i)).valor()));
-        }
+        IniciaPosicoes(m, n, k);
         m.LinhaRes = 0;
-        for (;;) {
-            if (GravaCombinacao(p) == 1) return true;
-            const int64_t ult = m.UltPos.valor();
-            if (m.VetPos(ult) < m.VetMax(ult)) {
-                m.VetPos(ult) += 1;
-                continue;
-            }
-            // Carry: a position that reaches its maximum here is a row as it
-            // stands, all positions to its right being at theirs already.
-            Int32 q = m.UltPos;
-            for (;;) {
-                q -= 1;
-                if (q < 0) break;
-                m.VetPos(q.valor()) += 1;
-                if (m.VetPos(q.valor()) < m.VetMax(q.valor())) break;
-                if (GravaCombinacao(p) == 1) return true;
-            }
-            for (Int32 j = q + 1; j <= m.UltPos; ++j)
-                m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
-        }
+        PercorreCombinacoes(m, FimNoTransporte::Termina, [&] { return GravaCombinacao(p, m); });
+        return true;
     } catch (const FalhaExecucao&) {
     } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {
@@ -140,8 +121,7 @@ bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
     return false;
 }
 
-int GravaCombinacao(Programa& p) {
-    Module2& m = module2(p);
+int GravaCombinacao(Nucleo& p, Module2& m) {
     auto& e = p.e;
     const int64_t ultIndice = m.UltIndice.valor();
     const int64_t ultPos = m.UltPos.valor();
@@ -151,7 +131,7 @@ int GravaCombinacao(Programa& p) {
     const Int16* num = ultIndice >= 0 ? &e.VetNum(0) : nullptr;
     const Int16* pos = ultPos >= 0 ? &m.VetPos(0) : nullptr;
     const int64_t linha = m.LinhaRes.valor();
-    uint8_t codigos[82];
+    uint8_t codigos[82] = {};
     int col = 0;
     bool simples = true;
     // The excluded positions ascend strictly, so that one walk along them
@@ -189,12 +169,11 @@ int GravaCombinacao(Programa& p) {
     }
     m.Contado(linha) = 0;
     m.LinhaRes += 1;
-    AvancaProgresso(p);
+    AvancaProgresso(p, m);
     return m.VetPos(0) >= m.VetMax(0) ? 1 : 0;
 }
 
-bool PosicaoExcluida(Programa& p, Int32 idx) {
-    Module2& m = module2(p);
+bool PosicaoExcluida(Nucleo&, Module2& m, Int32 idx) {
     for (Int32 i = 0; i <= m.UltPos; ++i)
         if (m.VetPos(i.valor()) == int64_t(idx.valor())) return true;
     return false;
@@ -202,7 +181,7 @@ bool PosicaoExcluida(Programa& p, Int32 idx) {
 
 namespace {
 void mostraProgresso(Module2& m) {
-    if (m.aoMudarProgresso) m.aoMudarProgresso(m.Progresso);
+    m.aoMudarProgresso(m.Progresso);
 }
 // The bar refuses a value outside its range; the routine goes on.
 void defineValorBarra(Module2& m, int32_t valor) {
@@ -212,8 +191,7 @@ void defineValorBarra(Module2& m, int32_t valor) {
 }
 } // namespace
 
-void IniciaProgresso(Programa& p, Int32 total) {
-    Module2& m = module2(p);
+void IniciaProgresso(Nucleo&, Module2& m, Int32 total) {
     m.PeriodoProgresso = total >= 1000 ? 100 : 1;
     m.Progresso.Min = 0;
     const float maximo = float(double(total.valor()) / double(m.PeriodoProgresso.valor()) + 1);
@@ -223,8 +201,7 @@ void IniciaProgresso(Programa& p, Int32 total) {
     m.ValorProgresso = 0;
 }
 
-void AvancaProgresso(Programa& p) {
-    Module2& m = module2(p);
+void AvancaProgresso(Nucleo& p, Module2& m) {
     p.s.cedencia->cede();
     // With no period set yet the test itself fails, and the failure goes on
     // into the statement that it guards.

@@ -4,10 +4,10 @@
 // Estatistica.h.
 #pragma once
 
-#include "../core/Estado.h"
+#include "base/Aviso.h"
+#include "core/Estado.h"
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace sorvelo {
@@ -57,7 +57,7 @@ struct Module2 {
     Int16 ContProgresso;
     BarraProgresso Progresso;
     // Told of every change of the bar (the dialog repaints it).
-    std::function<void(const BarraProgresso&)> aoMudarProgresso;
+    Aviso<const BarraProgresso&> aoMudarProgresso;
 
     // The value of "Auto-completar" at the start of the run (0 or 1).
     Int16 AutoCompletar;
@@ -74,8 +74,6 @@ struct Module2 {
     uint8_t& Contado(int64_t linha);
 };
 
-Module2& module2(Programa& p);
-
 // The bytes that one row of a combination of k numbers takes, from VetRes
 // to the bank (the estimate against limiteMemoria).
 int64_t BytesPorLinha(int k);
@@ -83,10 +81,46 @@ int64_t BytesPorLinha(int k);
 // The message of a failed generation.
 QString MensagemMemoriaInsuficiente();
 
-bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total);
-int GravaCombinacao(Programa& p);
-bool PosicaoExcluida(Programa& p, Int32 idx);
-void IniciaProgresso(Programa& p, Int32 total);
-void AvancaProgresso(Programa& p);
+// The walk over the combinations of k out of n, shared by the generator
+// and the prize statistics. It walks the positions left out of each
+// combination (VetPos, from 0 to VetMax, the last one fastest); `grava`
+// writes the combination that the positions leave and returns 1 when it
+// was the last. A last one met while a position carries ends the walk
+// (FimNoTransporte::Termina) or only the carry, the tail being reset and
+// written again (FimNoTransporte::Continua).
+enum class FimNoTransporte { Termina, Continua };
+// UltPos and the positions' start and maxima for k out of n.
+void IniciaPosicoes(Module2& m, Int16 n, Int16 k);
+template <typename Grava> void PercorreCombinacoes(Module2& m, FimNoTransporte fim, Grava grava) {
+    for (;;) {
+        if (grava() == 1) return;
+        const int64_t ult = m.UltPos.valor();
+        if (m.VetPos(ult) < m.VetMax(ult)) {
+            m.VetPos(ult) += 1;
+            continue;
+        }
+        // Carry: a position that reaches its maximum here is a combination
+        // as it stands, all positions to its right being at theirs already.
+        Int32 q = m.UltPos;
+        for (;;) {
+            q -= 1;
+            if (q < 0) break;
+            m.VetPos(q.valor()) += 1;
+            if (m.VetPos(q.valor()) < m.VetMax(q.valor())) break;
+            if (grava() == 1) {
+                if (fim == FimNoTransporte::Termina) return;
+                break;
+            }
+        }
+        for (Int32 j = q + 1; j <= m.UltPos; ++j)
+            m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
+    }
+}
+
+bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total);
+int GravaCombinacao(Nucleo& p, Module2& m);
+bool PosicaoExcluida(Nucleo& p, Module2& m, Int32 idx);
+void IniciaProgresso(Nucleo& p, Module2& m, Int32 total);
+void AvancaProgresso(Nucleo& p, Module2& m);
 
 } // namespace sorvelo

@@ -1,4 +1,4 @@
-#include "Reducao.h"
+#include "combinacoes/Reducao.h"
 
 #include <algorithm>
 #include <bit>

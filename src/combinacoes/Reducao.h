@@ -27,7 +27,7 @@
 // large to enumerate is kept aside and tested by its mask.
 #pragma once
 
-#include "../core/Semantica.h"
+#include "base/Semantica.h"
 
 #include <QString>
 #include <QStringList>

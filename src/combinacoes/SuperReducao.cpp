@@ -1,7 +1,7 @@
-#include "SuperReducao.h"
+#include "combinacoes/SuperReducao.h"
 
-#include "../core/BancoApostas.h"
-#include "../core/Module1.h"
+#include "core/BancoApostas.h"
+#include "core/Module1.h"
 
 #include <QDir>
 
@@ -9,7 +9,9 @@
 
 namespace sorvelo {
 
-SuperReducao::SuperReducao(Programa& p) : p_(p) {}
+SuperReducao::SuperReducao(Nucleo& p) : LogicaDialogo(p, Cancelar::MarcaCancelado) {
+    LblMensagem = QStringLiteral("Efetuando reduções, aguarde...");
+}
 
 void SuperReducao::ativa() {
     // The run closes the dialog at its end; it is never started twice, even
@@ -17,17 +19,6 @@ void SuperReducao::ativa() {
     if (iniciado_) return;
     iniciado_ = true;
     ExecutaSuperReducao();
-}
-
-void SuperReducao::BtnCancelar() {
-    p_.e.Cancelado = true;
-    fecha();
-}
-
-void SuperReducao::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 void SuperReducao::semSuperReducao() {
@@ -60,8 +51,7 @@ void SuperReducao::ExecutaSuperReducao() {
     PosSuper = *posicao;
     LeBlocoSuper(TextoSuper, PosSuper, e.VetRes, QuantSuper);
     MapeiaBloco();
-    LblMensagem = QStringLiteral("Inserindo jogos no banco de apostas...");
-    if (aoMudarMensagem) aoMudarMensagem();
+    mensagem(QStringLiteral("Inserindo jogos no banco de apostas..."));
     InsereJogosSuper();
     fecha();
 }

@@ -6,29 +6,29 @@
 // its cancel button.
 #pragma once
 
-#include "../core/Estado.h"
-#include "LeituraSuper.h"
+#include "core/Estado.h"
+#include "combinacoes/LeituraSuper.h"
 
 #include <QByteArray>
 #include <QStringList>
+
+#include "core/LogicaDialogo.h"
 
 #include <functional>
 
 namespace sorvelo {
 
-class SuperReducao {
+// "Cancelar" (and Esc or the frame): Cancelado and the close of the
+// dialog; the run goes on to its end all the same.
+class SuperReducao : public LogicaDialogo {
 public:
     // The dialog's load. It takes from the reduced combination flow
     // QuantEscolhidos, QuantAcertar, DezAposta (the guarantee), DezFinal,
     // VetDezenas, VetFixos, DezEscolhidas and Historico.
-    explicit SuperReducao(Programa& p);
+    explicit SuperReducao(Nucleo& p);
 
     // Coming to the front: the whole run, once.
     void ativa();
-    // "Cancelar": Cancelado and the close of the dialog; the run goes on to
-    // its end all the same.
-    void BtnCancelar();
-    bool aberto() const { return aberto_; }
 
     void ExecutaSuperReducao();
     // The block's rows (VetRes) mapped onto the marked numbers (VetDezenas)
@@ -43,13 +43,9 @@ public:
     static inline const QString Caption = QStringLiteral("Combinações super reduzidas");
     static inline const QString SemSuperReducoes =
         QStringLiteral("Não há super-reduções para os parâmetros informados!");
-    QString LblMensagem = QStringLiteral("Efetuando reduções, aguarde...");
     QString LblCont, LblTotal;
-    // Told when LblMensagem changes, when LblCont changes (every 13 bets),
-    // and when the dialog closes.
-    std::function<void()> aoMudarMensagem;
+    // Told when LblCont changes (every 13 bets).
     std::function<void(const QString&)> aoContar;
-    std::function<void()> aoFechar;
 
     // Fields of the dialog.
     QByteArray TextoSuper;
@@ -57,13 +53,10 @@ public:
     Int16 QuantSuper;
 
 private:
-    void fecha();
     void semSuperReducao();
     void adicionaLista(const QString& item);
 
-    Programa& p_;
     QStringList LstSort; // sorted as text, as the hidden list box
-    bool aberto_ = true;
     bool iniciado_ = false;
 };
 

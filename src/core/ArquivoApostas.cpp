@@ -1,11 +1,11 @@
-#include "ArquivoApostas.h"
+#include "core/ArquivoApostas.h"
 
-#include "BancoApostas.h"
-#include "Cp1252.h"
-#include "Grade.h"
-#include "Loteria.h"
-#include "Module1.h"
-#include "Rtf.h"
+#include "core/BancoApostas.h"
+#include "core/Cp1252.h"
+#include "core/Grade.h"
+#include "core/Loteria.h"
+#include "core/Module1.h"
+#include "core/Rtf.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,7 +46,7 @@ constexpr int64_t UltimaPosicaoVetBan = 32767;
 
 // ------------------------------------------------------------ writing
 
-std::string bytesVetBan(const Programa& p) {
+std::string bytesVetBan(const Nucleo& p) {
     const MatrizTexto& v = p.e.VetBan;
     std::string s;
     const int64_t quant = p.e.QuantBan.valor();
@@ -75,7 +75,7 @@ std::string bytesVetBan(const Programa& p) {
     return s;
 }
 
-QString textoDasCelulas(const Programa& p, Cor fundo) {
+QString textoDasCelulas(const Nucleo& p, Cor fundo) {
     QString s;
     for (int i = 0; i <= 99; ++i)
         if (p.tela.Num(i).BackColor == fundo) s += p.tela.Num(i).Text;
@@ -155,7 +155,7 @@ Int16 valorPar(const QString& texto, int64_t i) {
 }
 
 // The marks of fields 2 and 11, each on the cell of the number one lower.
-void carregaMarcas(Programa& p, const QString& Texto, Cor fundo, bool pulaFalhas) {
+void carregaMarcas(Nucleo& p, const QString& Texto, Cor fundo, bool pulaFalhas) {
     for (int64_t i = 1; i < Texto.size(); i += 2) {
         const Int16 v = valorPar(Texto, i);
         const int64_t indice = int64_t(v.valor()) - 1;
@@ -177,26 +177,26 @@ void defineSpin(Spin& spin, CampoTexto& campo, const QString& texto) {
 
 } // namespace
 
-QString TextoMarcados(const Programa& p) {
+QString TextoMarcados(const Nucleo& p) {
     return textoDasCelulas(p, p.e.CorMarcado);
 }
-QString TextoFixos(const Programa& p) {
+QString TextoFixos(const Nucleo& p) {
     return textoDasCelulas(p, p.e.CorFixo);
 }
 
-QString TextoVetBan(const Programa& p) {
+QString TextoVetBan(const Nucleo& p) {
     const std::string b = bytesVetBan(p);
     return cp1252::decodifica(b.data(), int64_t(b.size()));
 }
 
-void CarregaMarcados(Programa& p, const QString& Texto) {
+void CarregaMarcados(Nucleo& p, const QString& Texto) {
     carregaMarcas(p, Texto, p.e.CorMarcado, true);
 }
-void CarregaFixos(Programa& p, const QString& Texto) {
+void CarregaFixos(Nucleo& p, const QString& Texto) {
     carregaMarcas(p, Texto, p.e.CorFixo, false);
 }
 
-void CarregaVetBan(Programa& p, const QString& Texto) {
+void CarregaVetBan(Nucleo& p, const QString& Texto) {
     auto& e = p.e;
     // Every row takes at least one character and the 16-bit position stops
     // the reading at character 32767, so no bank of 32767 rows or more can be
@@ -225,7 +225,7 @@ void CarregaVetBan(Programa& p, const QString& Texto) {
     }
 }
 
-void NovoArquivo(Programa& p) {
+void NovoArquivo(Nucleo& p) {
     p.e.NomeArquivo.clear();
     p.tela.Caption = QStringLiteral("Sorvelo");
     if (!LimpaBancoApostas(p)) return;
@@ -233,7 +233,7 @@ void NovoArquivo(Programa& p) {
     p.e.Historico.clear();
 }
 
-void SalvarArquivo(Programa& p) {
+void SalvarArquivo(Nucleo& p) {
     auto& e = p.e;
     if (e.NomeArquivo.isEmpty()) {
         const QString nome = p.s.dialogo->salvar(TituloSalvar, Filtro);
@@ -248,12 +248,12 @@ void SalvarArquivo(Programa& p) {
     e.BancoAlterado = false;
 }
 
-void SalvarArquivoComo(Programa& p) {
+void SalvarArquivoComo(Nucleo& p) {
     p.e.NomeArquivo.clear();
     SalvarArquivo(p);
 }
 
-void GravaArquivo(Programa& p, const QString& Nome) {
+void GravaArquivo(Nucleo& p, const QString& Nome) {
     const auto& e = p.e;
     const auto& t = p.tela;
     ApagaArquivo(Nome);
@@ -280,7 +280,7 @@ void GravaArquivo(Programa& p, const QString& Nome) {
     arquivo.close();
 }
 
-void AbrirArquivo(Programa& p) {
+void AbrirArquivo(Nucleo& p) {
     if (!LimpaBancoApostas(p)) return;
     LimpaNumeros(p);
     const QString nome = p.s.dialogo->abrir(TituloAbrir, Filtro);
@@ -288,7 +288,7 @@ void AbrirArquivo(Programa& p) {
     LeArquivo(p, nome);
 }
 
-void LeArquivo(Programa& p, const QString& nome) {
+void LeArquivo(Nucleo& p, const QString& nome) {
     auto& e = p.e;
     auto& t = p.tela;
     e.NomeArquivo = nome;
@@ -324,10 +324,6 @@ void LeArquivo(Programa& p, const QString& nome) {
     t.CmbAcertar.Text = l.texto();
     arquivo.close();
     AtualizaEscolhidos(p);
-}
-
-void InstalaArquivo(Programa& p) {
-    p.salvarArquivo = SalvarArquivo;
 }
 
 } // namespace sorvelo

@@ -12,7 +12,7 @@
 // a longer length is the memory failure (7) at once.
 #pragma once
 
-#include "Estado.h"
+#include "core/Estado.h"
 
 #include <QByteArray>
 
@@ -25,26 +25,23 @@ extern int64_t LimiteTextoArquivo;
 
 // Novo: forgets the file name, empties the bank (which may ask to save),
 // clears the grid and the log.
-void NovoArquivo(Programa& p);
+void NovoArquivo(Nucleo& p);
 // Salvar: asks for a name when there is none, asks before overwriting.
-void SalvarArquivo(Programa& p);
+void SalvarArquivo(Nucleo& p);
 // Salvar Como: the name forgotten, then Salvar.
-void SalvarArquivoComo(Programa& p);
+void SalvarArquivoComo(Nucleo& p);
 // Writes the file, deleting the old one first.
-void GravaArquivo(Programa& p, const QString& Nome);
+void GravaArquivo(Nucleo& p, const QString& Nome);
 // Abrir: empties the bank, asks for a name, reads the sixteen fields.
-void AbrirArquivo(Programa& p);
+void AbrirArquivo(Nucleo& p);
 // What Abrir does once it has the name: the caption, then the sixteen fields.
-void LeArquivo(Programa& p, const QString& nome);
+void LeArquivo(Nucleo& p, const QString& nome);
 
-QString TextoMarcados(const Programa& p);
-QString TextoFixos(const Programa& p);
-QString TextoVetBan(const Programa& p);
-void CarregaMarcados(Programa& p, const QString& Texto);
-void CarregaFixos(Programa& p, const QString& Texto);
-void CarregaVetBan(Programa& p, const QString& Texto);
-
-// Gives the bank's save question (Programa::salvarArquivo) its effect.
-void InstalaArquivo(Programa& p);
+QString TextoMarcados(const Nucleo& p);
+QString TextoFixos(const Nucleo& p);
+QString TextoVetBan(const Nucleo& p);
+void CarregaMarcados(Nucleo& p, const QString& Texto);
+void CarregaFixos(Nucleo& p, const QString& Texto);
+void CarregaVetBan(Nucleo& p, const QString& Texto);
 
 } // namespace sorvelo

@@ -1,8 +1,8 @@
-#include "ArquivoInicial.h"
+#include "core/ArquivoInicial.h"
 
-#include "ArquivoApostas.h"
-#include "BancoApostas.h"
-#include "Grade.h"
+#include "core/ArquivoApostas.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
 
 #include <QFileInfo>
 
@@ -16,7 +16,7 @@ QString AvisoArquivoInexistente(const QString& caminho) {
     return QStringLiteral("O arquivo \"%1\" não foi encontrado.").arg(caminho);
 }
 
-void AbreArquivoInicial(Programa& p, const QString& caminho) {
+void AbreArquivoInicial(Nucleo& p, const QString& caminho) {
     if (caminho.isEmpty()) return;
     const QFileInfo info(caminho);
     // Abrir would create a name that is not there: here nothing is created.

@@ -2,7 +2,7 @@
 // program opens after "Entrar" as Abrir opens it, without the dialog.
 #pragma once
 
-#include "Estado.h"
+#include "core/Estado.h"
 
 #include <QStringList>
 
@@ -16,6 +16,6 @@ QString AvisoArquivoInexistente(const QString& caminho);
 // Opens the file as Abrir does, with its name made absolute. A name that
 // is no file gives the warning and changes nothing, on disk or in the
 // program; an empty name does nothing.
-void AbreArquivoInicial(Programa& p, const QString& caminho);
+void AbreArquivoInicial(Nucleo& p, const QString& caminho);
 
 } // namespace sorvelo

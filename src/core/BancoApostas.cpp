@@ -1,8 +1,10 @@
-#include "BancoApostas.h"
+#include "core/BancoApostas.h"
+
+#include "core/ArquivoApostas.h"
 
 namespace sorvelo {
 
-void InsereLinhaBanco(Programa& p, const QString& Texto, bool Negrito) {
+void InsereLinhaBanco(Nucleo& p, const QString& Texto, bool Negrito) {
     p.tela.TxtBanco.acrescenta(Texto, CorLog, Negrito);
 }
 
@@ -19,11 +21,11 @@ void InsereLinhaAposta(DocumentoRico& doc, int64_t n, const QString& Aposta, con
     doc.acrescenta(v.mid(6), CorAposta, false);
 }
 
-void InsereApostaBanco(Programa& p, const QString& Aposta, int64_t n) {
+void InsereApostaBanco(Nucleo& p, const QString& Aposta, int64_t n) {
     InsereLinhaAposta(p.tela.TxtBanco, n, Aposta, p.e.FimLinha);
 }
 
-void InsereApostaMarcada(Programa& p) {
+void InsereApostaMarcada(Nucleo& p) {
     auto& e = p.e;
     e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor());
     QString aposta;
@@ -41,7 +43,7 @@ void InsereApostaMarcada(Programa& p) {
     e.QuantBan += 1;
 }
 
-QString RetAposta(const Programa& p, Int32 Linha) {
+QString RetAposta(const Nucleo& p, Int32 Linha) {
     QString s;
     for (Int16 c = 0;; ++c) {
         const QString v = p.e.VetBan.valor(c.valor(), Linha.valor());
@@ -51,14 +53,14 @@ QString RetAposta(const Programa& p, Int32 Linha) {
     return s;
 }
 
-bool LimpaBancoApostas(Programa& p) {
+bool LimpaBancoApostas(Nucleo& p) {
     auto& e = p.e;
     auto& t = p.tela;
     if (e.BancoAlterado && !t.TxtBanco.texto().isEmpty()) {
         switch (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"),
                                     Botoes::SimNaoCancelar, Resposta::Sim)) {
         case Resposta::Sim:
-            if (p.salvarArquivo) p.salvarArquivo(p);
+            SalvarArquivo(p);
             break;
         case Resposta::Cancelar:
             return false;
@@ -78,14 +80,14 @@ bool LimpaBancoApostas(Programa& p) {
     return true;
 }
 
-void BtnLimparBanco(Programa& p) {
+void BtnLimparBanco(Nucleo& p) {
     if (p.tela.TxtBanco.texto().isEmpty()) return;
     if (p.s.caixa->pergunta(QStringLiteral("Tem certeza que deseja limpar o banco de apostas?"),
                             Botoes::SimNao, Resposta::Nao) == Resposta::Sim)
         LimpaBancoApostas(p);
 }
 
-QString CabecalhoLote(const Programa& p) {
+QString CabecalhoLote(const Nucleo& p) {
     return QStringLiteral("Dezenas escolhidas: ") + p.e.DezEscolhidas + QStringLiteral("\r\n") +
            p.e.Historico + QStringLiteral("\r\n");
 }

@@ -1,4 +1,6 @@
-#include "Estado.h"
+#include "core/Estado.h"
+
+#include <stdexcept>
 
 namespace sorvelo {
 
@@ -12,11 +14,20 @@ const Celula& TelaPrincipal::Num(int64_t i) const {
     return celulas[size_t(i)];
 }
 
-Programa::Programa() {
-    tela.TxtBanco.aoMudar = [this] { e.BancoAlterado = true; };
+namespace {
+const Servicos& verificados(const Servicos& s) {
+    const bool completos = s.caixa && s.dialogo && s.impressora && s.aleatorio && s.relogio && s.cedencia &&
+                           s.abridor && s.pasta;
+    if (!completos) throw std::invalid_argument("Nucleo: a service is missing");
+    return s;
+}
+} // namespace
+
+Nucleo::Nucleo(const Servicos& servicos, Dialogos& d) : s(verificados(servicos)), dialogos(d) {
+    tela.TxtBanco.aoMudar.liga([this] { e.BancoAlterado = true; });
 }
 
-QString Programa::agoraTexto() {
+QString Nucleo::agoraTexto() {
     const QDateTime agora = s.relogio->agora();
     return textoData(agora) + u' ' + textoHora(agora);
 }

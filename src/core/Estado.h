@@ -1,19 +1,19 @@
-// The shared state of the program (the variables of Module1) and the model
-// of the main window's controls that the logic reads and writes. One
-// Programa holds both, with the desktop services, for the whole run.
+// The shared state of the program (the variables of Module1), the model of
+// the main window's controls that the logic reads and writes, and the
+// services: the Nucleo. The whole program's state (programa/Programa.h)
+// is a Nucleo with the state of each tool's module beside it.
 #pragma once
 
-#include "../platform/DocumentoRico.h"
-#include "../platform/Servicos.h"
-#include "MatrizTexto.h"
-#include "Semantica.h"
+#include "base/MatrizTexto.h"
+#include "base/Semantica.h"
+#include "platform/Dialogos.h"
+#include "platform/DocumentoRico.h"
+#include "platform/Servicos.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <array>
-#include <functional>
-#include <memory>
 
 namespace sorvelo {
 
@@ -108,21 +108,18 @@ struct TelaPrincipal {
     Int16 ContAjuda, ContCancela;
 };
 
-// The module state of the combination generator (combinacoes/Module2.h).
-struct Module2;
-
-struct Programa {
+// The state that every part of the logic shares. It is made with its
+// services and its dialogs, none of them missing, and keeps them for life.
+struct Nucleo {
     Estado e;
     TelaPrincipal tela;
-    Servicos s;
-    // Commands of the bet file; the file's logic installs them.
-    std::function<void(Programa&)> salvarArquivo;
-    // Made on first use by module2(p); lives as long as the program.
-    std::shared_ptr<Module2> module2;
+    const Servicos s;
+    Dialogos& dialogos;
 
-    Programa();
-    Programa(const Programa&) = delete;
-    Programa& operator=(const Programa&) = delete;
+    // Throws std::invalid_argument when a service is missing.
+    Nucleo(const Servicos& servicos, Dialogos& dialogos);
+    Nucleo(const Nucleo&) = delete;
+    Nucleo& operator=(const Nucleo&) = delete;
 
     QString agoraTexto(); // date, blank, time, as a log line starts
 };

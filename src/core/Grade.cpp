@@ -1,37 +1,37 @@
-#include "Grade.h"
+#include "core/Grade.h"
 
 namespace sorvelo {
 
-void MarcaNumero(Programa& p, Int16 Indice) {
+void MarcaNumero(Nucleo& p, Int16 Indice) {
     Celula& c = p.tela.Num(Indice.valor());
     c.BackColor = p.tela.ChkFixar.Value ? p.e.CorFixo : p.e.CorMarcado;
     c.ForeColor = p.e.CorTextoMarcado;
 }
 
-void DesmarcaNumero(Programa& p, Int16 Indice) {
+void DesmarcaNumero(Nucleo& p, Int16 Indice) {
     Celula& c = p.tela.Num(Indice.valor());
     c.BackColor = p.e.CorFundoNum;
     c.ForeColor = p.e.CorTextoNum;
 }
 
-Int16 ContaNumeros(const Programa& p) {
+Int16 ContaNumeros(const Nucleo& p) {
     Int16 n = 0;
     for (int i = 0; i <= 99; ++i)
         if (p.tela.Num(i).BackColor == p.e.CorMarcado) ++n;
     return n;
 }
 
-void AtualizaEscolhidos(Programa& p) {
+void AtualizaEscolhidos(Nucleo& p) {
     p.tela.TxtEscolhidos.Text = formata00(ContaNumeros(p).valor());
 }
 
-void LimpaNumeros(Programa& p) {
+void LimpaNumeros(Nucleo& p) {
     for (int16_t i = 0; i <= 99; ++i)
         DesmarcaNumero(p, i);
     p.tela.TxtEscolhidos.Text = QStringLiteral("00");
 }
 
-void CarregaNumeros(Programa& p) {
+void CarregaNumeros(Nucleo& p) {
     auto& e = p.e;
     for (int i = 0; i <= 99; ++i) {
         e.VetNum(i) = -1;
@@ -53,7 +53,7 @@ void CarregaNumeros(Programa& p) {
     }
 }
 
-void ClicaNumero(Programa& p, Int16 i) {
+void ClicaNumero(Nucleo& p, Int16 i) {
     if (i > p.e.NumFim) return;
     const Cor fundo = p.tela.Num(i.valor()).BackColor;
     if (fundo == p.e.CorMarcado || fundo == p.e.CorFixo)
@@ -63,7 +63,7 @@ void ClicaNumero(Programa& p, Int16 i) {
     AtualizaEscolhidos(p);
 }
 
-void BtnLimpar(Programa& p) {
+void BtnLimpar(Nucleo& p) {
     if (p.s.caixa->pergunta(QStringLiteral("Tem certeza que deseja apagar todos os números escolhidos?"),
                             Botoes::SimNao, Resposta::Nao) == Resposta::Sim)
         LimpaNumeros(p);

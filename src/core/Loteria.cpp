@@ -1,8 +1,8 @@
-#include "Loteria.h"
+#include "core/Loteria.h"
 
-#include "BancoApostas.h"
-#include "Grade.h"
-#include "Module1.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
+#include "core/Module1.h"
 
 namespace sorvelo {
 
@@ -32,7 +32,7 @@ const Jogo* jogoPorNome(const QString& nome) {
     return nullptr;
 }
 
-void DefineCores(Programa& p) {
+void DefineCores(Nucleo& p) {
     p.e.CorFundoNum = rgb(0, 64, 0);
     p.e.CorTextoNum = rgb(0, 255, 0);
     p.e.CorMarcado = rgb(0, 0, 200);
@@ -60,7 +60,7 @@ QString RetValorNumerico(const QString& s, bool aparar) {
     return apara(r);
 }
 
-void DesmarcaMenus(Programa& p) {
+void DesmarcaMenus(Nucleo& p) {
     auto& t = p.tela;
     t.MenuMegaSena = t.MenuDuplaSena = t.MenuQuina = t.MenuLotomania = t.MenuLotoFacil = false;
 }
@@ -86,7 +86,7 @@ int valorGarantia(const QString& texto) {
 namespace {
 // CmbAcertar follows CmbGarantia: a word gives its number; a figure from 7
 // up is copied when `copiaFigura` allows.
-void acertarDaGarantia(Programa& p, bool copiaFigura) {
+void acertarDaGarantia(Nucleo& p, bool copiaFigura) {
     const QString& g = p.tela.CmbGarantia.Text;
     if (const int n = numeroDaPalavra(g))
         p.tela.CmbAcertar.Text = QString::number(n);
@@ -95,15 +95,15 @@ void acertarDaGarantia(Programa& p, bool copiaFigura) {
 }
 } // namespace
 
-void DerivaAcertar(Programa& p) {
+void DerivaAcertar(Nucleo& p) {
     acertarDaGarantia(p, true);
 }
 
-void CliqueGarantia(Programa& p) {
+void CliqueGarantia(Nucleo& p) {
     acertarDaGarantia(p, !p.tela.ChkReduzir.Value);
 }
 
-void ConfiguraLoteria(Programa& p, const QString& Nome) {
+void ConfiguraLoteria(Nucleo& p, const QString& Nome) {
     auto& e = p.e;
     auto& t = p.tela;
     Int16 ini = 0, fim = 0;
@@ -141,7 +141,7 @@ void ConfiguraLoteria(Programa& p, const QString& Nome) {
     DerivaAcertar(p);
 }
 
-void TrocaLoteria(Programa& p, const QString& nome) {
+void TrocaLoteria(Nucleo& p, const QString& nome) {
     p.e.NomeArquivo.clear();
     if (!LimpaBancoApostas(p)) return;
     LimpaNumeros(p);

@@ -1,7 +1,7 @@
 // The five games and the routine that puts the main window into one.
 #pragma once
 
-#include "Estado.h"
+#include "core/Estado.h"
 
 namespace sorvelo {
 
@@ -23,11 +23,11 @@ const std::array<Jogo, 5>& jogos();
 // The game of a name in either case; nullptr when none matches.
 const Jogo* jogoPorNome(const QString& nome);
 
-void DefineCores(Programa& p);
+void DefineCores(Nucleo& p);
 // Nome in mixed case (menu, toolbar, start) or upper case (a file).
-void ConfiguraLoteria(Programa& p, const QString& Nome);
+void ConfiguraLoteria(Nucleo& p, const QString& Nome);
 QString RetValorNumerico(const QString& s, bool aparar);
-void DesmarcaMenus(Programa& p);
+void DesmarcaMenus(Nucleo& p);
 // The number a guarantee word stands for: "Duque" 2 ... "Sena" 6, or the
 // text's own value when it reads 7 or more; 0 otherwise.
 int valorGarantia(const QString& texto);
@@ -36,11 +36,11 @@ const QStringList& palavrasGarantia();
 // The number a guarantee word stands for, 2 to 6; 0 for any other text.
 int numeroDaPalavra(const QString& texto);
 // CmbAcertar derived from CmbGarantia's text.
-void DerivaAcertar(Programa& p);
+void DerivaAcertar(Nucleo& p);
 // A click in CmbGarantia's list: CmbAcertar follows the guarantee (a figure
 // from 7 up only while ChkReduzir is unchecked).
-void CliqueGarantia(Programa& p);
+void CliqueGarantia(Nucleo& p);
 // A game switch by menu or toolbar (nome in mixed case).
-void TrocaLoteria(Programa& p, const QString& nome);
+void TrocaLoteria(Nucleo& p, const QString& nome);
 
 } // namespace sorvelo

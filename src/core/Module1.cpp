@@ -1,6 +1,6 @@
-#include "Module1.h"
+#include "core/Module1.h"
 
-#include "Semantica.h"
+#include "base/Semantica.h"
 
 #include <QFile>
 

@@ -1,8 +1,9 @@
-#include "Principal.h"
+#include "core/Principal.h"
 
-#include "Loteria.h"
-#include "Module1.h"
-#include "SistemaOperacional.h"
+#include "core/Loteria.h"
+#include "core/Module1.h"
+#include "core/SistemaOperacional.h"
+#include "core/ArquivoApostas.h"
 
 #include <QDir>
 
@@ -12,7 +13,7 @@ QString FimLinhaDoSistema(const QString& nomeSistema) {
     return nomeSistema.toUpper() == QStringLiteral("WINDOWS XP") ? QString() : QStringLiteral("\r\n");
 }
 
-void CarregaPrincipal(Programa& p) {
+void CarregaPrincipal(Nucleo& p) {
     // The probe's name, upper-cased; only "WINDOWS XP" drops the line end.
     p.e.FimLinha = FimLinhaDoSistema(clsOS::doSistema().OS_Name);
     DefineCores(p);
@@ -21,14 +22,14 @@ void CarregaPrincipal(Programa& p) {
     p.tela.MenuMegaSena = true;
 }
 
-void AtualizaContadores(Programa& p) {
+void AtualizaContadores(Nucleo& p) {
     auto& t = p.tela;
     t.TxtQuantApostas.Text = textoNumero(int64_t(p.e.QuantBan.valor()));
     QString total = textoNumero(valorNumerico(t.TxtQuantApostas.Text) * p.e.ValorAposta);
     t.TxtValorApostas.Text = FormataNumero(total);
 }
 
-void TickTimer1(Programa& p) {
+void TickTimer1(Nucleo& p) {
     auto& t = p.tela;
     t.ContAjuda += 1;
     if (t.ContAjuda > 10) EscondeAjuda(p);
@@ -40,19 +41,19 @@ void TickTimer1(Programa& p) {
     }
 }
 
-void MudaBarraHoriz(Programa& p, int valor) {
+void MudaBarraHoriz(Nucleo& p, int valor) {
     p.tela.BarraHoriz.Value = valor;
     p.tela.PicLoteriaLeft = -(valor * 100);
     if (valor == 1) p.tela.PicLoteriaLeft = 0;
 }
 
-void MudaBarraVert(Programa& p, int valor) {
+void MudaBarraVert(Nucleo& p, int valor) {
     p.tela.BarraVert.Value = valor;
     p.tela.PicLoteriaTop = -(valor * 100);
     if (valor == 1) p.tela.PicLoteriaTop = 600;
 }
 
-void Redimensiona(Programa& p, int largura, int altura) {
+void Redimensiona(Nucleo& p, int largura, int altura) {
     auto& t = p.tela;
     // A negative size is refused by the control; that statement is skipped.
     t.BarraHoriz.Top = altura - 1100;
@@ -61,11 +62,11 @@ void Redimensiona(Programa& p, int largura, int altura) {
     if (altura - 1425 >= 0) t.BarraVert.Height = altura - 1425;
 }
 
-void EscondeAjuda(Programa& p) {
+void EscondeAjuda(Nucleo& p) {
     p.tela.HelpRotinaVisible.fill(false);
 }
 
-void MovimentoMouse(Programa& p, Regiao onde, int x, int y) {
+void MovimentoMouse(Nucleo& p, Regiao onde, int x, int y) {
     auto& t = p.tela;
     auto mostra = [&](std::initializer_list<int> marcas) {
         t.ContAjuda = 0;
@@ -113,11 +114,11 @@ void MovimentoMouse(Programa& p, Regiao onde, int x, int y) {
     }
 }
 
-void FechaPrincipal(Programa& p) {
+void FechaPrincipal(Nucleo& p) {
     if (!p.tela.TxtBanco.texto().isEmpty() && p.e.BancoAlterado) {
         if (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"), Botoes::SimNao,
                                 Resposta::Sim) == Resposta::Sim) {
-            if (p.salvarArquivo) p.salvarArquivo(p);
+            SalvarArquivo(p);
         }
     }
     ApagaArquivo(QDir(p.s.pasta->caminho()).filePath(QStringLiteral("00001.txt")));

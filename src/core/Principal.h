@@ -2,22 +2,22 @@
 // resizing, the help marks and the close flow.
 #pragma once
 
-#include "Estado.h"
+#include "core/Estado.h"
 
 namespace sorvelo {
 
 // Form load: FimLinha, colours, Mega-Sena, the menu check.
-void CarregaPrincipal(Programa& p);
+void CarregaPrincipal(Nucleo& p);
 // The extra line end: empty only on the system named "WINDOWS XP".
 QString FimLinhaDoSistema(const QString& nomeSistema);
 // One tick of Timer1 (every 500 ms).
-void TickTimer1(Programa& p);
+void TickTimer1(Nucleo& p);
 // TxtQuantApostas and TxtValorApostas from QuantBan and ValorAposta.
-void AtualizaContadores(Programa& p);
-void MudaBarraHoriz(Programa& p, int valor);
-void MudaBarraVert(Programa& p, int valor);
+void AtualizaContadores(Nucleo& p);
+void MudaBarraHoriz(Nucleo& p, int valor);
+void MudaBarraVert(Nucleo& p, int valor);
 // Resize with the window's outer size in twips; failures skipped.
-void Redimensiona(Programa& p, int largura, int altura);
+void Redimensiona(Nucleo& p, int largura, int altura);
 
 // Where the mouse moves, for the help marks.
 enum class Regiao {
@@ -32,10 +32,10 @@ enum class Regiao {
     BtnDigitar,
     BtnReduz
 };
-void EscondeAjuda(Programa& p);
-void MovimentoMouse(Programa& p, Regiao onde, int x, int y);
+void EscondeAjuda(Nucleo& p);
+void MovimentoMouse(Nucleo& p, Regiao onde, int x, int y);
 
 // The close flow: the save question (Sim/Não), then "00001.txt" deleted.
-void FechaPrincipal(Programa& p);
+void FechaPrincipal(Nucleo& p);
 
 } // namespace sorvelo

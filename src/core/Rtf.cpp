@@ -1,7 +1,7 @@
-#include "Rtf.h"
+#include "core/Rtf.h"
 
-#include "Cp1252.h"
-#include "Semantica.h"
+#include "base/Semantica.h"
+#include "core/Cp1252.h"
 
 #include <algorithm>
 #include <charconv>

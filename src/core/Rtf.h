@@ -4,7 +4,7 @@
 // and the program reads what such a control writes.
 #pragma once
 
-#include "../platform/DocumentoRico.h"
+#include "platform/DocumentoRico.h"
 
 #include <QByteArray>
 

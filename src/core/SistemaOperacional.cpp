@@ -1,4 +1,4 @@
-#include "SistemaOperacional.h"
+#include "core/SistemaOperacional.h"
 
 #include <array>
 

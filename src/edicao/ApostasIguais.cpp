@@ -1,6 +1,6 @@
-#include "ApostasIguais.h"
+#include "edicao/ApostasIguais.h"
 
-#include "core/Semantica.h"
+#include "base/Semantica.h"
 
 #include <algorithm>
 #include <bit>

@@ -12,7 +12,7 @@
 // The memory is a few words a row, whatever the length of the bets.
 #pragma once
 
-#include "core/MatrizTexto.h"
+#include "base/MatrizTexto.h"
 
 #include <QHash>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "Digitacao.h"
+#include "edicao/Digitacao.h"
 
-#include "../core/BancoApostas.h"
-#include "SortearFormato.h"
+#include "core/BancoApostas.h"
+#include "edicao/SortearFormato.h"
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ Digitacao::Foco naPosicao(int k) {
 }
 } // namespace
 
-Digitacao::Digitacao(Programa& p) : p_(p) {}
+Digitacao::Digitacao(Nucleo& p) : LogicaDialogo(p, Cancelar::Nenhum) {}
 
 void Digitacao::ativa() {
     BtnExcluir.Caption = QStringLiteral("Excluir\rselecionado");
@@ -226,12 +226,6 @@ void Digitacao::BtnSairClick() {
                              Botoes::SimNao, Resposta::Sim) == Resposta::Sim)
         InsereNoBanco();
     fecha();
-}
-
-void Digitacao::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 void Digitacao::InsereNoBanco() {

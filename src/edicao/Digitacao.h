@@ -8,7 +8,8 @@
 // where the logic moves the focus itself it tells the form by aoMoverFoco.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <QStringList>
 
@@ -17,7 +18,7 @@
 
 namespace sorvelo {
 
-class Digitacao {
+class Digitacao : public LogicaDialogo {
 public:
     static constexpr int QuantCelulas = 60;
 
@@ -52,7 +53,7 @@ public:
     };
 
     // The form's load: every control at its default.
-    explicit Digitacao(Programa& p);
+    explicit Digitacao(Nucleo& p);
 
     // The window becomes active: the two captions, then AjustaCampos.
     void ativa();
@@ -80,9 +81,6 @@ public:
     void BtnExcluirClick();
     void BtnInserirBancoClick();
     void BtnSairClick();
-    // The close by the window's own box: no question, pending bets lost.
-    void fecha();
-    bool aberto() const { return aberto_; }
 
     // Routines of the form.
     void AjustaCampos();
@@ -99,7 +97,6 @@ public:
 
     // Told when the logic moves the focus (SetFocus), and when the window closes.
     std::function<void(Foco)> aoMoverFoco;
-    std::function<void()> aoFechar;
 
     // Controls.
     QString TxtQNum = QStringLiteral("6");
@@ -125,9 +122,7 @@ private:
     void testaFocoCelula(int p);
     void testaUltimaCelula();
 
-    Programa& p_;
     std::array<CelulaNumero, QuantCelulas> celulas_;
-    bool aberto_ = true;
 };
 
 } // namespace sorvelo

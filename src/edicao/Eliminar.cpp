@@ -1,4 +1,4 @@
-#include "Eliminar.h"
+#include "edicao/Eliminar.h"
 
 #include "core/BancoApostas.h"
 #include "edicao/Filtrar.h"
@@ -25,17 +25,11 @@ constexpr uint8_t Riscada = 254;
 constexpr int Colunas = 256;
 } // namespace
 
-void BtnEliminar(Programa& p, const std::function<void(Programa&)>& mostraEliminar) {
-    if (mostraEliminar) mostraEliminar(p);
+void BtnEliminar(Nucleo& p) {
+    p.dialogos.mostraEliminar();
 }
 
-Eliminar::Eliminar(Programa& p) : p_(p) {}
-
-void Eliminar::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
-}
+Eliminar::Eliminar(Nucleo& p) : LogicaDialogo(p, Cancelar::Nenhum) {}
 
 Int16 Eliminar::CompVetBan() const {
     int quant = 0;

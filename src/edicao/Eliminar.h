@@ -6,23 +6,21 @@
 #pragma once
 
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <functional>
 
 namespace sorvelo {
 
-class Eliminar {
+class Eliminar : public LogicaDialogo {
 public:
-    explicit Eliminar(Programa& p);
+    explicit Eliminar(Nucleo& p);
 
     // "Iniciar": the log line, Randomize, the check of the quantity, the
     // strikes in every bet, the rewrite of the bank and the close. The run
     // yields every 13 bets, and a click that arrives in a yield runs the
     // whole handler again, inside the first.
     void BtnIniciar();
-    // The closing of the dialog by its window.
-    void fecha();
-    bool aberto() const { return aberto_; }
 
     // The count of cells before the first "#" of row 0 of VetBan.
     Int16 CompVetBan() const;
@@ -37,18 +35,15 @@ public:
     // Told when LblCont changes (every 13 bets, before the yield) and when
     // the dialog closes.
     std::function<void()> aoContar;
-    std::function<void()> aoFechar;
 
 private:
     void eliminaDaAposta(int64_t linha, int n, int q);
     void contaECede(int64_t feitas);
 
-    Programa& p_;
-    bool aberto_ = true;
 };
 
 // "Eliminação de números" of the main window: the dialog, shown modally by
-// the function given, with no test of the bank first.
-void BtnEliminar(Programa& p, const std::function<void(Programa&)>& mostraEliminar);
+// p.dialogos, with no test of the bank first.
+void BtnEliminar(Nucleo& p);
 
 } // namespace sorvelo

@@ -1,4 +1,4 @@
-#include "Filtrar.h"
+#include "edicao/Filtrar.h"
 
 #include "core/BancoApostas.h"
 
@@ -18,9 +18,9 @@ bool ehNumero(uint8_t c) {
 }
 } // namespace
 
-void BtnFiltrar(Programa& p, const std::function<void(Programa&)>& mostraFiltrar) {
+void BtnFiltrar(Nucleo& p) {
     p.e.Historico += p.agoraTexto() + QStringLiteral(": Filtragem de apostas\r\n");
-    if (mostraFiltrar) mostraFiltrar(p);
+    p.dialogos.mostraFiltrar();
 }
 
 int LinhaDoNumero(int n) {
@@ -71,7 +71,7 @@ QString TextoDaLinha(const MatrizTexto& vet, int64_t linha) {
     return s;
 }
 
-Filtrar::Filtrar(Programa& p) : p_(p) {
+Filtrar::Filtrar(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {
     const QString& nome = p.e.NomeLoteria;
     if (nome == QStringLiteral("MEGA-SENA"))
         NumLinhas = 6;
@@ -131,16 +131,6 @@ void Filtrar::mudaBarra(int linha, int valor) {
 void Filtrar::BtnOK() {
     ExecutaFiltro();
     fecha();
-}
-
-void Filtrar::BtnCancelar() {
-    fecha();
-}
-
-void Filtrar::fecha() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 Int16 Filtrar::Cont(int64_t i) const {

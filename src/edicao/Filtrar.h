@@ -6,8 +6,9 @@
 // The form binds the controls below and forwards the clicks.
 #pragma once
 
-#include "ApostasIguais.h"
+#include "edicao/ApostasIguais.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <array>
 #include <functional>
@@ -15,17 +16,15 @@
 
 namespace sorvelo {
 
-class Filtrar {
+class Filtrar : public LogicaDialogo {
 public:
     // The dialog's load: NumLinhas from the game, the four row and column
     // boxes disabled in Lotofácil, the remarks of LblObs.
-    explicit Filtrar(Programa& p);
+    explicit Filtrar(Nucleo& p);
     ~Filtrar();
 
     // "OK": the whole run, then the close. "Cancelar": the close.
     void BtnOK();
-    void BtnCancelar();
-    bool aberto() const { return aberto_; }
 
     // A scroll bar moved: its box gets the value formatted "00". `linha` is
     // the criterion's row, 0 (sequence) to 6 (odd numbers).
@@ -64,7 +63,6 @@ public:
     // which the form may skip when it repainted a moment ago, and true for
     // the last caption.
     std::function<void(bool sempre)> aoRepintarContador;
-    std::function<void()> aoFechar;
 
     // Fields of the dialog.
     MatrizTexto VetAux;
@@ -84,7 +82,6 @@ private:
         int16_t valor = 0;
         int16_t le();
     };
-    void fecha();
     void conta(int indice);
     int numero(int coluna, uint8_t codigo) const;
     bool passaSequencia(const uint8_t* cel, int m);
@@ -92,8 +89,6 @@ private:
     bool passaParImpar(const uint8_t* cel, int m);
     bool passaIguais();
 
-    Programa& p_;
-    bool aberto_ = true;
     std::array<int16_t, 11> cont_{};
     Limite limSeq_, limLin_, limCol_, limLinVaz_, limColVaz_, limPar_, limImpar_;
     std::unique_ptr<ApostasIguais> iguais_;
@@ -101,8 +96,8 @@ private:
 
 // "Filtrar banco de apostas" of the main window: the log line
 // ": Filtragem de apostas" (which stays when the dialog is cancelled), then
-// the dialog, shown modally by the function given.
-void BtnFiltrar(Programa& p, const std::function<void(Programa&)>& mostraFiltrar);
+// the dialog, through p.dialogos.
+void BtnFiltrar(Nucleo& p);
 
 // The row and the column of a number on the card ten numbers wide:
 // 01..10 are row 0, 01, 11, 21... column 0; 00 gives -1 for both.

@@ -1,6 +1,6 @@
-#include "SortComb.h"
+#include "edicao/SortComb.h"
 
-#include "../core/Grade.h"
+#include "core/Grade.h"
 
 #include <cmath>
 
@@ -15,7 +15,7 @@ QString QuantidadePadraoSortComb(const QString& nomeLoteria) {
     return QString();
 }
 
-SortComb::SortComb(Programa& p) : p_(p) {}
+SortComb::SortComb(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {}
 
 void SortComb::ativa() {
     const QString padrao = QuantidadePadraoSortComb(p_.e.NomeLoteria);
@@ -76,12 +76,6 @@ void SortComb::BtnOK() {
     }
     AtualizaEscolhidos(p_);
     BtnCancelar();
-}
-
-void SortComb::BtnCancelar() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 } // namespace sorvelo

@@ -3,16 +3,17 @@
 // a yield after every pass so that the grid paints as it fills.
 #pragma once
 
-#include "../core/Estado.h"
-#include "../core/MatrizTexto.h"
+#include "core/Estado.h"
+#include "base/MatrizTexto.h"
+#include "core/LogicaDialogo.h"
 
 #include <functional>
 
 namespace sorvelo {
 
-class SortComb {
+class SortComb : public LogicaDialogo {
 public:
-    explicit SortComb(Programa& p);
+    explicit SortComb(Nucleo& p);
 
     // The dialog comes to the front: TxtDez takes the game's default.
     void ativa();
@@ -23,9 +24,6 @@ public:
     // "OK": the question, the draw on the grid, the close (or the message
     // "Quantidade inválida!" with the dialog left open).
     void BtnOK();
-    void BtnCancelar();
-    bool aberto() const { return aberto_; }
-    std::function<void()> aoFechar;
     // Told after each cell is marked, before the yield, so that the grid
     // can show it.
     std::function<void(Int16)> aoMarcar;
@@ -45,8 +43,6 @@ public:
     Int16 QuantSorteados;
 
 private:
-    Programa& p_;
-    bool aberto_ = true;
 };
 
 // The quantity that the dialog proposes for a game: "6", "5", "50", "15".

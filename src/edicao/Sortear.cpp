@@ -1,7 +1,7 @@
-#include "Sortear.h"
+#include "edicao/Sortear.h"
 
-#include "../core/BancoApostas.h"
-#include "SortearFormato.h"
+#include "core/BancoApostas.h"
+#include "edicao/SortearFormato.h"
 
 #include <algorithm>
 #include <bitset>
@@ -9,11 +9,12 @@
 
 namespace sorvelo {
 
-void BtnSortear(Programa& p) {
+void BtnSortear(Nucleo& p) {
     p.e.Historico += p.agoraTexto() + QStringLiteral(": Foi feito sorteio de números pelo computador\r\n");
+    p.dialogos.mostraSortear();
 }
 
-Sortear::Sortear(Programa& p) : p_(p) {
+Sortear::Sortear(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {
     TxtDez = p.tela.TxtDezAp.Text;
 }
 
@@ -37,12 +38,6 @@ void Sortear::mudaScrMenosOco(int valor) {
 void Sortear::BtnOK() {
     SorteiaApostas();
     BtnCancelar();
-}
-
-void Sortear::BtnCancelar() {
-    const bool estava = aberto_;
-    aberto_ = false;
-    if (estava && aoFechar) aoFechar();
 }
 
 void Sortear::adicionaLista(const QString& item) {

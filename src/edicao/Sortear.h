@@ -4,7 +4,8 @@
 // form binds the controls below and forwards its buttons and scroll bars.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <QStringList>
 
@@ -16,13 +17,13 @@ namespace sorvelo {
 
 // The main window's button "Sortear apostas": the log line, then the dialog
 // (shown by the caller).
-void BtnSortear(Programa& p);
+void BtnSortear(Nucleo& p);
 
-class Sortear {
+class Sortear : public LogicaDialogo {
 public:
     static constexpr int QuantCaixas = 10;
     // The dialog's load: TxtDez takes the main window's TxtDezAp.
-    explicit Sortear(Programa& p);
+    explicit Sortear(Nucleo& p);
 
     // Changes of the scroll bars: the value, formatted "00", into the box.
     void mudaScrQuant(int valor);
@@ -32,9 +33,6 @@ public:
 
     // "OK": the draw, then the close. "Cancelar": the close.
     void BtnOK();
-    void BtnCancelar();
-    bool aberto() const { return aberto_; }
-    std::function<void()> aoFechar;
 
     // The draw of all bets into VetBan and TxtBanco.
     void SorteiaApostas();
@@ -67,8 +65,6 @@ private:
     int quantLivres();
     const std::array<double, QuantCaixas>& excluidos();
 
-    Programa& p_;
-    bool aberto_ = true;
     // The values of the Excluir boxes, read once a draw (they cannot change
     // while it runs).
     std::optional<std::array<double, QuantCaixas>> excluidos_;

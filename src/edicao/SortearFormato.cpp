@@ -1,6 +1,6 @@
-#include "SortearFormato.h"
+#include "edicao/SortearFormato.h"
 
-#include "../core/Semantica.h"
+#include "base/Semantica.h"
 
 #include <cmath>
 

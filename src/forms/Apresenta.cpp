@@ -1,7 +1,7 @@
-#include "Apresenta.h"
+#include "forms/Apresenta.h"
 
-#include "Ilustracoes.h"
-#include "Sorvelo.h"
+#include "forms/Ilustracoes.h"
+#include "forms/Sorvelo.h"
 #include "core/ArquivoInicial.h"
 
 #include <QCloseEvent>
@@ -9,8 +9,9 @@
 
 namespace sorvelo {
 
-JanelaApresenta::JanelaApresenta(Programa& p, QString arquivo)
-    : Formulario(p, "Apresenta", QStringLiteral("Sorvelo")), arquivo_(std::move(arquivo)) {
+JanelaApresenta::JanelaApresenta(Programa& p, FazPrincipal fazPrincipal, QString arquivo)
+    : Formulario(p, "Apresenta", QStringLiteral("Sorvelo")), fazPrincipal_(std::move(fazPrincipal)),
+      arquivo_(std::move(arquivo)) {
     setWindowIcon(QIcon(desenhaEmblema(64)));
     auto* image1 = poe(new QLabel, this, "Image1", 240, 240, 1920, 1920);
     image1->setPixmap(desenhaEmblema(tw(1920)));
@@ -35,7 +36,7 @@ void JanelaApresenta::entra() {
     // The two steps ignore their failures.
     try {
         if (!janela_) {
-            principal_ = std::make_unique<Sorvelo>(p_);
+            principal_ = fazPrincipal_();
             janela_ = principal_.get();
             janela_->show();
             emit principalAberta(janela_);
@@ -47,7 +48,7 @@ void JanelaApresenta::entra() {
     if (!janela_ || arquivo_.isEmpty()) return;
     const QString arquivo = std::exchange(arquivo_, QString());
     executaProtegido([&] { AbreArquivoInicial(p_, arquivo); });
-    janela_->sincroniza();
+    atualizaVistas();
 }
 
 void JanelaApresenta::closeEvent(QCloseEvent* e) {

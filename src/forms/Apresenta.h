@@ -3,32 +3,33 @@
 // with no main window ever shown.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 
 #include <memory>
 
 namespace sorvelo {
 
-class Sorvelo;
-
 class JanelaApresenta : public Formulario {
     Q_OBJECT
 public:
+    // Makes the main window (the program's, or a test's).
+    using FazPrincipal = std::function<std::unique_ptr<QWidget>()>;
+
     // `arquivo`: a bet file named on the command line, which the main window
     // opens after "Entrar" as Abrir does (empty: none).
-    explicit JanelaApresenta(Programa& p, QString arquivo = QString());
+    JanelaApresenta(Programa& p, FazPrincipal fazPrincipal, QString arquivo = QString());
     ~JanelaApresenta() override;
 
     // The main window, once "Entrar" has made it.
-    Sorvelo* principal() const { return janela_; }
+    QWidget* principal() const { return janela_; }
     // Hands the main window over to whoever keeps it from now on.
-    std::unique_ptr<Sorvelo> tomaPrincipal() { return std::move(principal_); }
+    std::unique_ptr<QWidget> tomaPrincipal() { return std::move(principal_); }
     // BtnEntrar.
     void entra();
 
 signals:
     // The main window stands (the program ends when it does).
-    void principalAberta(Sorvelo* janela);
+    void principalAberta(QWidget* janela);
     // The box was closed by its frame: the program ends.
     void encerrado();
 
@@ -38,9 +39,10 @@ protected:
     void reject() override {}
 
 private:
+    FazPrincipal fazPrincipal_;
     QString arquivo_;
-    std::unique_ptr<Sorvelo> principal_;
-    Sorvelo* janela_ = nullptr;
+    std::unique_ptr<QWidget> principal_;
+    QWidget* janela_ = nullptr;
     bool entrou_ = false;
 };
 

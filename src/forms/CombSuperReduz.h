@@ -3,8 +3,8 @@
 // as it comes to the front. "Cancelar" closes it; the work goes on behind.
 #pragma once
 
-#include "Formulario.h"
 #include "combinacoes/SuperReducao.h"
+#include "forms/Formulario.h"
 
 namespace sorvelo {
 
@@ -12,14 +12,10 @@ class JanelaCombSuperReduz : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaCombSuperReduz(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
-
-protected:
-    void closeEvent(QCloseEvent* e) override;
 
 private:
     SuperReducao s_;
-    QLabel *lblMensagem_, *lblCont_, *lblTotal_;
+    QLabel* lblCont_;
 };
 
 } // namespace sorvelo

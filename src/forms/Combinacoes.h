@@ -1,13 +1,9 @@
-// The dialogs of a full combination: "Combinações" (count, cost, the run of
-// the generator with its progress bar) and the insertion into the bank.
+// The dialog "Combinações" of a full combination and of a closing: count,
+// cost, the run of the generator with its progress bar.
 #pragma once
 
-#include "Formulario.h"
 #include "combinacoes/Combinacao.h"
-#include "combinacoes/InsereVetor.h"
-
-class QCheckBox;
-class QProgressBar;
+#include "forms/Formulario.h"
 
 namespace sorvelo {
 
@@ -15,34 +11,18 @@ class JanelaCombinacoes : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaCombinacoes(Programa& p, QWidget* pai = nullptr);
-    ~JanelaCombinacoes() override;
-    void sincroniza() override;
 
 protected:
-    void closeEvent(QCloseEvent* e) override;
+    void atualizaTela() override;
 
 private:
     Combinacoes c_;
-    QLabel *lblDezComb_, *lblDezCart_, *lblTotAp_, *lblValAp_, *lblMensagem_;
-    QCheckBox *chkEst_, *chkAuto_;
+    QLabel *lblTotAp_, *lblValAp_;
     QProgressBar* progresso_;
+    Ligacao progressoMudou_;
 };
 
-class JanelaInsereVetor : public Formulario {
-    Q_OBJECT
-public:
-    explicit JanelaInsereVetor(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
-
-protected:
-    void closeEvent(QCloseEvent* e) override;
-
-private:
-    InsereVetor v_;
-    QLabel *lblCont_, *lblTotal_;
-};
-
-// The functions through which the main window shows the two dialogs.
-JanelasCombinacao janelasCombinacao(QWidget* pai, std::function<void()> caretNoFim);
+// Shows the dialog modal over `pai`; returns when it has closed.
+void mostraJanelaCombinacoes(Programa& p, QWidget* pai);
 
 } // namespace sorvelo

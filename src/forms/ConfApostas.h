@@ -2,8 +2,10 @@
 // against the result marked on the grid when "Conferir banco" was pressed.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/Conferencia.h"
+
+#include <memory>
 
 class QGroupBox;
 class QLineEdit;
@@ -15,22 +17,20 @@ class AreaRica;
 class JanelaConfApostas : public Formulario {
     Q_OBJECT
 public:
-    // `logica` is owned by the main window and outlives this window.
-    JanelaConfApostas(Programa& p, ConfApostas& logica, QWidget* pai = nullptr);
-    void sincroniza() override;
+    // The window owns its logic, loaded already (ConfApostas::Carrega).
+    JanelaConfApostas(Programa& p, std::unique_ptr<ConfApostas> logica, QWidget* pai = nullptr);
+    ConfApostas& logica() { return *c_; }
     // The next activation comes from the program, not from the person.
     void ignoraProximaAtivacao() { ignorarAtivacao_ = true; }
 
 protected:
+    void atualizaTela() override;
     bool event(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
 
 private:
-    ConfApostas& c_;
-    QLabel* lblTitulo_;
-    QLabel* lblMensagem_;
-    QLineEdit* txtPontos_;
+    std::unique_ptr<ConfApostas> c_;
     AreaRica* rtfConf_;
     QGroupBox* fraConf_;
     bool ignorarAtivacao_ = true;

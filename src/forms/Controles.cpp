@@ -1,4 +1,4 @@
-#include "Controles.h"
+#include "forms/Controles.h"
 
 #include <QApplication>
 #include <QFocusEvent>

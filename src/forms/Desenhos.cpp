@@ -1,4 +1,4 @@
-#include "Desenhos.h"
+#include "forms/Desenhos.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,7 +1,7 @@
-#include "Digitacao.h"
+#include "forms/Digitacao.h"
 
-#include "Controles.h"
-#include "Sorvelo.h"
+#include "forms/Controles.h"
+#include "forms/Janelas.h"
 
 #include <QCloseEvent>
 #include <QFocusEvent>
@@ -37,6 +37,7 @@ QString legenda(const QString& caption) {
 
 JanelaDigitacao::JanelaDigitacao(Programa& p, QWidget* pai)
     : Formulario(p, "Digitacao", QStringLiteral("Digitação de apostas"), pai), d_(p) {
+    ligaLogica(d_);
     tamanho(8040, 5040);
     rotulo(QStringLiteral("Quantidade de números por aposta:"), 120, 180, 2700, 255, "Label1");
     txtQNum_ = poe(new QLineEdit(d_.TxtQNum), this, "TxtQNum", 2880, 120, 435, 315);
@@ -93,15 +94,21 @@ JanelaDigitacao::JanelaDigitacao(Programa& p, QWidget* pai)
         if (d_.foco == Digitacao::controle(Alvo::BtnInserir)) d_.BtnInserirClick();
     });
     liga(btnExcluir_, &QPushButton::clicked, [this] { d_.BtnExcluirClick(); });
-    liga(btnInserirBanco_, &QPushButton::clicked, [this] { d_.BtnInserirBancoClick(); });
-    liga(btnSair_, &QPushButton::clicked, [this] { d_.BtnSairClick(); });
+    // The bets go into the main window's bank: every window shows it.
+    liga(btnInserirBanco_, &QPushButton::clicked, [this] {
+        d_.BtnInserirBancoClick();
+        atualizaVistas();
+    });
+    liga(btnSair_, &QPushButton::clicked, [this] {
+        d_.BtnSairClick();
+        atualizaVistas();
+    });
     d_.aoMoverFoco = [this](Digitacao::Foco f) {
         if (QWidget* w = widgetDe(f)) {
             sincroniza();
             w->setFocus(Qt::OtherFocusReason);
         }
     };
-    d_.aoFechar = [this] { close(); };
 }
 
 QWidget* JanelaDigitacao::widgetDe(Digitacao::Foco f) const {
@@ -153,7 +160,7 @@ bool JanelaDigitacao::eventFilter(QObject* alvo, QEvent* e) {
         if (focoDe(alvo, f)) {
             if (auto* t = qobject_cast<QLineEdit*>(alvo)) selecionaAoFocar(t, static_cast<QFocusEvent*>(e));
             // The logic's own moves arrive here already known to it.
-            if (!sincronizando_ && f != d_.foco) {
+            if (!sincronizando() && f != d_.foco) {
                 executaProtegido([&] { d_.recebeFoco(f); });
                 sincroniza();
             }
@@ -161,7 +168,7 @@ bool JanelaDigitacao::eventFilter(QObject* alvo, QEvent* e) {
     } else if (e->type() == QEvent::KeyPress) {
         const int i = celulaDe(alvo);
         auto* k = static_cast<QKeyEvent*>(e);
-        if (i >= 0 && !sincronizando_) {
+        if (i >= 0 && !sincronizando()) {
             if (k->key() == Qt::Key_Left) {
                 executaProtegido([&] { d_.teclaAbaixoTxtNum(i, 37); });
                 sincroniza();
@@ -181,15 +188,7 @@ bool JanelaDigitacao::event(QEvent* e) {
     return Formulario::event(e);
 }
 
-void JanelaDigitacao::closeEvent(QCloseEvent* e) {
-    // Closing by the frame loses the pending bets without a question.
-    if (d_.aberto()) d_.fecha();
-    e->accept();
-}
-
-void JanelaDigitacao::sincroniza() {
-    const bool antes = sincronizando_;
-    sincronizando_ = true;
+void JanelaDigitacao::atualizaTela() {
     if (txtQNum_->text() != d_.TxtQNum) txtQNum_->setText(d_.TxtQNum);
     for (int i = 0; i < Digitacao::QuantCelulas; ++i) {
         const auto& c = d_.celulas()[size_t(i)];
@@ -213,9 +212,6 @@ void JanelaDigitacao::sincroniza() {
     btnSair_->setEnabled(d_.BtnSair.Enabled);
     btnExcluir_->setText(legenda(d_.BtnExcluir.Caption));
     btnInserirBanco_->setText(legenda(d_.BtnInserirBanco.Caption));
-    sincronizando_ = antes;
-    // The bets went into the main window's bank.
-    if (auto* principal = qobject_cast<Sorvelo*>(parentWidget())) principal->sincroniza();
 }
 
 } // namespace sorvelo

@@ -3,7 +3,7 @@
 // pending list, and moves the list into the bank in one step.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "edicao/Digitacao.h"
 
 #include <array>
@@ -19,13 +19,12 @@ class JanelaDigitacao : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaDigitacao(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
     Digitacao& logica() { return d_; }
 
 protected:
     bool event(QEvent* e) override;
     bool eventFilter(QObject* alvo, QEvent* e) override;
-    void closeEvent(QCloseEvent* e) override;
 
 private:
     QWidget* widgetDe(Digitacao::Foco f) const;

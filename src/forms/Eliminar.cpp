@@ -1,6 +1,7 @@
-#include "Eliminar.h"
+#include "forms/Eliminar.h"
 
-#include <QCloseEvent>
+#include "forms/Janelas.h"
+
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -8,6 +9,7 @@ namespace sorvelo {
 
 JanelaEliminar::JanelaEliminar(Programa& p, QWidget* pai)
     : Formulario(p, "Eliminar", Eliminar::Caption, pai), e_(p) {
+    ligaLogica(e_);
     tamanho(5400, 2460);
     QFont negrito = font();
     negrito.setBold(true);
@@ -23,29 +25,19 @@ JanelaEliminar::JanelaEliminar(Programa& p, QWidget* pai)
     liga(txtQuant_, &QLineEdit::textEdited, [this](const QString& t) { e_.TxtQuant.Text = t; });
     liga(iniciar, &QPushButton::clicked, [this] { e_.BtnIniciar(); });
     e_.aoContar = [this] { lblCont_->setText(e_.LblCont); };
-    e_.aoFechar = [this] { done(0); };
     sincroniza();
 }
 
-void JanelaEliminar::sincroniza() {
-    sincronizando_ = true;
+void JanelaEliminar::atualizaTela() {
     if (txtQuant_->text() != e_.TxtQuant.Text) txtQuant_->setText(e_.TxtQuant.Text);
     lblCont_->setText(e_.LblCont);
-    sincronizando_ = false;
 }
 
-void JanelaEliminar::closeEvent(QCloseEvent* e) {
-    // Closing by the frame unloads the dialog; a run in progress goes on to
-    // its end.
-    e_.fecha();
-    e->accept();
-}
-
-std::function<void(Programa&)> mostraEliminar(QWidget* pai) {
-    return [pai](Programa& p) {
-        JanelaEliminar janela(p, pai);
-        janela.mostraModal();
-    };
+// Closing by the frame unloads the dialog (the dialog has no cancel); a run
+// in progress goes on to its end.
+void mostraJanelaEliminar(Programa& p, QWidget* pai) {
+    JanelaEliminar janela(p, pai);
+    janela.mostraModal();
 }
 
 } // namespace sorvelo

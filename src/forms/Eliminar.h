@@ -4,7 +4,7 @@
 // clicked and closed meanwhile: the form stays alive until the run returns.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "edicao/Eliminar.h"
 
 class QLineEdit;
@@ -15,18 +15,13 @@ class JanelaEliminar : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaEliminar(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
-protected:
-    void closeEvent(QCloseEvent* e) override;
 
 private:
     Eliminar e_;
     QLineEdit* txtQuant_ = nullptr;
     QLabel* lblCont_ = nullptr;
 };
-
-// The function through which the main window shows the dialog, modal.
-std::function<void(Programa&)> mostraEliminar(QWidget* pai);
 
 } // namespace sorvelo

@@ -1,4 +1,4 @@
-#include "EntraTexto.h"
+#include "forms/EntraTexto.h"
 
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -18,7 +18,8 @@ protected:
 } // namespace
 
 JanelaEntraTexto::JanelaEntraTexto(Programa& p, QWidget* pai)
-    : Formulario(p, "EntraTexto", QStringLiteral("Sorvelo"), pai), c_(p.e) {
+    : Formulario(p, "EntraTexto", QStringLiteral("Sorvelo"), pai), c_(p) {
+    ligaLogica(c_);
     tamanho(5280, 1920);
     lblMensagem_ = rotulo(c_.tela.LblMensagem, 240, 180, 4800, 255, "LblMensagem");
     txtTexto_ = poe(new CaixaSeleciona, this, "TxtTexto", 240, 540, 4800, 315);
@@ -39,15 +40,12 @@ JanelaEntraTexto::JanelaEntraTexto(Programa& p, QWidget* pai)
     liga(cancelar, &QPushButton::clicked, [this] { c_.BtnCancelar(); });
 }
 
-void JanelaEntraTexto::sincroniza() {
-    sincronizando_ = true;
+void JanelaEntraTexto::atualizaTela() {
     lblMensagem_->setText(c_.tela.LblMensagem);
     if (txtTexto_->text() != c_.tela.TxtTexto.Text) txtTexto_->setText(c_.tela.TxtTexto.Text);
-    sincronizando_ = false;
-    if (c_.fechada() && isVisible()) done(0);
 }
 
-void mostraEntraTexto(Programa& p, QWidget* pai) {
+void mostraJanelaEntraTexto(Programa& p, QWidget* pai) {
     JanelaEntraTexto janela(p, pai);
     janela.mostraModal();
 }

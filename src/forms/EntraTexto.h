@@ -1,7 +1,7 @@
 // The text prompt: one line of text, OK or Cancelar.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/EntraTexto.h"
 
 class QLineEdit;
@@ -12,7 +12,7 @@ class JanelaEntraTexto : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaEntraTexto(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 private:
     EntraTexto c_;
@@ -22,6 +22,6 @@ private:
 
 // Shows the prompt modal with TextoPrompt and TextoDigitado; returns when it
 // closes, TextoDigitado holding the answer.
-void mostraEntraTexto(Programa& p, QWidget* pai);
+void mostraJanelaEntraTexto(Programa& p, QWidget* pai);
 
 } // namespace sorvelo

@@ -1,6 +1,6 @@
-#include "Estatisticas.h"
+#include "forms/Estatisticas.h"
 
-#include "EntraTexto.h"
+#include "forms/EntraTexto.h"
 #include "platform/qt/AreaRica.h"
 
 #include <QGroupBox>
@@ -12,6 +12,7 @@ namespace sorvelo {
 
 JanelaEstatisticas::JanelaEstatisticas(Programa& p, QWidget* pai)
     : Formulario(p, "Estatisticas", QStringLiteral("Conferência de apostas"), pai), c_(p) {
+    ligaLogica(c_);
     QFont grande(QStringLiteral("Arial"), 12);
     grande.setBold(true);
     QLabel* titulo = rotulo(c_.tela.LblTitulo, 120, 120, 9000, 400, "LblTitulo");
@@ -33,7 +34,6 @@ JanelaEstatisticas::JanelaEstatisticas(Programa& p, QWidget* pai)
         b->setAutoDefault(false);
 
     c_.Carrega();
-    c_.mostraEntraTexto = [this] { sorvelo::mostraEntraTexto(p_, this); };
     liga(txtPontos_, &QLineEdit::textEdited, [this](const QString& t) { c_.tela.TxtPontos.Text = t; });
     liga(estatistica, &QPushButton::clicked, [this] { c_.BtnEstatistica(); });
     liga(imprimir, &QPushButton::clicked, [this] { c_.BtnImprimir(); });
@@ -41,13 +41,10 @@ JanelaEstatisticas::JanelaEstatisticas(Programa& p, QWidget* pai)
     resize(tw(9600), tw(7000));
 }
 
-void JanelaEstatisticas::sincroniza() {
-    sincronizando_ = true;
+void JanelaEstatisticas::atualizaTela() {
     if (txtPontos_->text() != c_.tela.TxtPontos.Text) txtPontos_->setText(c_.tela.TxtPontos.Text);
     rtfConf_->setVisible(c_.tela.RTFConf.visivel());
     rtfConf_->atualiza();
-    sincronizando_ = false;
-    if (c_.fechada() && isVisible()) done(0);
 }
 
 void JanelaEstatisticas::resizeEvent(QResizeEvent* e) {
@@ -65,7 +62,7 @@ void JanelaEstatisticas::resizeEvent(QResizeEvent* e) {
     }
 }
 
-void mostraEstatisticas(Programa& p, QWidget* pai) {
+void mostraJanelaEstatisticas(Programa& p, QWidget* pai) {
     JanelaEstatisticas janela(p, pai);
     janela.mostraModal();
 }

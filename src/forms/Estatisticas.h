@@ -2,7 +2,7 @@
 // on purpose): modal; a run has no yield and no cancel.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/Estatisticas.h"
 
 class QGroupBox;
@@ -16,7 +16,7 @@ class JanelaEstatisticas : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaEstatisticas(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 protected:
     void resizeEvent(QResizeEvent* e) override;
@@ -29,6 +29,6 @@ private:
 };
 
 // CommandButton2 on the main window: shows the window modal.
-void mostraEstatisticas(Programa& p, QWidget* pai);
+void mostraJanelaEstatisticas(Programa& p, QWidget* pai);
 
 } // namespace sorvelo

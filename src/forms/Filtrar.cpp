@@ -1,7 +1,8 @@
-#include "Filtrar.h"
+#include "forms/Filtrar.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
+#include "forms/Janelas.h"
+
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,6 +12,7 @@ namespace sorvelo {
 
 JanelaFiltrar::JanelaFiltrar(Programa& p, QWidget* pai)
     : Formulario(p, "Filtrar", Filtrar::Caption, pai), f_(p) {
+    ligaLogica(f_);
     tamanho(6600, 5580);
     auto* frame = poe(new QGroupBox(Filtrar::CaptionFrame1), this, "Frame1", 120, 60, 6360, 4080);
     escala_.rotulo(frame, Filtrar::CaptionLabel8, 240, 300, 3000, 255, "Label8");
@@ -57,12 +59,10 @@ JanelaFiltrar::JanelaFiltrar(Programa& p, QWidget* pai)
             },
             sempre);
     };
-    f_.aoFechar = [this] { done(0); };
     sincroniza();
 }
 
-void JanelaFiltrar::sincroniza() {
-    sincronizando_ = true;
+void JanelaFiltrar::atualizaTela() {
     auto criterios = f_.criterios();
     for (size_t i = 0; i < criterios.size(); ++i) {
         const Filtrar::Criterio& c = criterios[i];
@@ -75,19 +75,11 @@ void JanelaFiltrar::sincroniza() {
     QString obs = f_.LblObs;
     lblObs_->setText(obs.replace(u'\r', u'\n'));
     lblContador_->setText(f_.LblContador);
-    sincronizando_ = false;
 }
 
-void JanelaFiltrar::closeEvent(QCloseEvent* e) {
-    if (f_.aberto()) executaProtegido([this] { f_.BtnCancelar(); });
-    e->accept();
-}
-
-std::function<void(Programa&)> mostraFiltrar(QWidget* pai) {
-    return [pai](Programa& p) {
-        JanelaFiltrar janela(p, pai);
-        janela.mostraModal();
-    };
+void mostraJanelaFiltrar(Programa& p, QWidget* pai) {
+    JanelaFiltrar janela(p, pai);
+    janela.mostraModal();
 }
 
 } // namespace sorvelo

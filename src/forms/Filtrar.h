@@ -5,7 +5,7 @@
 // which gives the message loop no turn, goes on.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "edicao/Filtrar.h"
 #include "platform/qt/RepinturaQt.h"
 
@@ -21,10 +21,8 @@ class JanelaFiltrar : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaFiltrar(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
-protected:
-    void closeEvent(QCloseEvent* e) override;
 
 private:
     Filtrar f_;
@@ -34,8 +32,5 @@ private:
     std::array<QScrollBar*, 7> scr_{};
     QLabel *lblContador_ = nullptr, *lblObs_ = nullptr;
 };
-
-// The function through which the main window shows the dialog, modal.
-std::function<void(Programa&)> mostraFiltrar(QWidget* pai);
 
 } // namespace sorvelo

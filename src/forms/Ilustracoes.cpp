@@ -1,4 +1,4 @@
-#include "Ilustracoes.h"
+#include "forms/Ilustracoes.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,6 +1,6 @@
-#include "JogoAJogo.h"
+#include "forms/JogoAJogo.h"
 
-#include "Ilustracoes.h"
+#include "forms/Ilustracoes.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -42,7 +42,7 @@ JanelaJogoAJogo::JanelaJogoAJogo(Programa& p, QWidget* pai)
     setMaximumHeight(tw(AlturaInicial - 405));
 }
 
-void JanelaJogoAJogo::sincroniza() {
+void JanelaJogoAJogo::atualizaTela() {
     txtSeq_->setText(j_.TxtSeq);
     txtJogo_->setText(j_.TxtJogo);
     txtJogo_->setCursorPosition(0);

@@ -2,7 +2,7 @@
 // number, two arrows and "Sair".
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/JogoAJogo.h"
 
 class QLineEdit;
@@ -14,7 +14,7 @@ class JanelaJogoAJogo : public Formulario {
     Q_OBJECT
 public:
     JanelaJogoAJogo(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 protected:
     void resizeEvent(QResizeEvent* e) override;

@@ -1,4 +1,4 @@
-#include "Montagem.h"
+#include "forms/Montagem.h"
 
 #include <QGuiApplication>
 #include <QScreen>

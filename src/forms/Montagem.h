@@ -4,7 +4,7 @@
 // runs protected and then refreshes the form.
 #pragma once
 
-#include "Protecao.h"
+#include "forms/Protecao.h"
 
 #include <QLabel>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "Protecao.h"
+#include "forms/Protecao.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -21,6 +21,19 @@ void defineTratadorFalha(TratadorFalha t) {
 
 void trataFalha(const FalhaExecucao& f) {
     tratador()(f);
+}
+
+void trataExcecao(const char* oque) {
+    const QString texto = QStringLiteral("Erro interno do programa: ") + QString::fromUtf8(oque);
+    if (qApp) {
+        QMessageBox caixa(QMessageBox::Critical, QStringLiteral("Sorvelo"), texto, QMessageBox::Ok);
+        EmModal modal;
+        caixa.exec();
+    } else {
+        std::fprintf(stderr, "%s\n", qPrintable(texto));
+    }
+    std::fflush(nullptr);
+    std::_Exit(1);
 }
 
 void tratadorPadrao(const FalhaExecucao& f) {

@@ -4,10 +4,12 @@
 // that a driver of the program knows when it waits for the person.
 #pragma once
 
-#include "core/Semantica.h"
+#include "base/Semantica.h"
 #include "platform/Atividade.h"
 
+#include <exception>
 #include <functional>
+#include <new>
 #include <utility>
 
 namespace sorvelo {
@@ -21,21 +23,33 @@ void trataFalha(const FalhaExecucao& f);
 // The program's own handler.
 void tratadorPadrao(const FalhaExecucao& f);
 
-// Runs a handler body, counting it and sending a failure to the top.
+// Any other exception that reaches the top (a fault of the program): the
+// critical box with its text, then the end, never a silent terminate.
+void trataExcecao(const char* oque);
+
+// Counts a handler at work for as long as it lives, whichever way it ends.
+class EmManipulador {
+public:
+    EmManipulador() { ++Atividade::manipuladores; }
+    ~EmManipulador() { --Atividade::manipuladores; }
+    EmManipulador(const EmManipulador&) = delete;
+    EmManipulador& operator=(const EmManipulador&) = delete;
+};
+
+// Runs a handler body, counting it and sending whatever it throws to the top.
 template <typename F> void executaProtegido(F&& f) {
-    ++Atividade::manipuladores;
     try {
+        EmManipulador contado;
         std::forward<F>(f)();
     } catch (const FalhaExecucao& falha) {
-        --Atividade::manipuladores;
         trataFalha(falha);
-        return;
     } catch (const std::bad_alloc&) {
-        --Atividade::manipuladores;
         trataFalha(FalhaExecucao(erro::MemoriaInsuficiente));
-        return;
+    } catch (const std::exception& e) {
+        trataExcecao(e.what());
+    } catch (...) {
+        trataExcecao("?");
     }
-    --Atividade::manipuladores;
 }
 
 template <typename F> auto protegido(F f) {

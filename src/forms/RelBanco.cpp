@@ -1,4 +1,4 @@
-#include "RelBanco.h"
+#include "forms/RelBanco.h"
 
 #include "platform/qt/AreaRica.h"
 
@@ -13,6 +13,7 @@ namespace sorvelo {
 
 JanelaRelBanco::JanelaRelBanco(Programa& p, QWidget* pai)
     : Formulario(p, "RelBanco", QStringLiteral("Listagem do banco de apostas"), pai), c_(p) {
+    ligaLogica(c_);
     setWindowFlag(Qt::WindowMaximizeButtonHint, true);
     QFont titulo(QStringLiteral("Arial"), 12);
     titulo.setBold(true);
@@ -36,12 +37,10 @@ JanelaRelBanco::JanelaRelBanco(Programa& p, QWidget* pai)
     const QScreen* tela = screen() ? screen() : QGuiApplication::primaryScreen();
     const QRect area = tela ? tela->geometry() : QRect(0, 0, 1024, 768);
     c_.Carrega(QFontDatabase::families(), escala_.deTw(area.width()), escala_.deTw(area.height()));
-    sincronizando_ = true;
     cmbFonte_->addItems(c_.tela.CmbFonte.itens);
     cmbTamanho_->addItems(c_.tela.CmbTamanho.itens);
     cmbFonte_->setEditText(c_.tela.CmbFonte.Text);
     cmbTamanho_->setEditText(c_.tela.CmbTamanho.Text);
-    sincronizando_ = false;
     move(tw(c_.tela.Left), tw(c_.tela.Top));
     resize(tw(c_.tela.Width), tw(c_.tela.Height));
     const int baixo = c_.tela.Height - 1100 + 480 + 120;
@@ -76,15 +75,12 @@ void JanelaRelBanco::aplicaFonte() {
     if (f != rtfRel_->font()) rtfRel_->setFont(f);
 }
 
-void JanelaRelBanco::sincroniza() {
-    sincronizando_ = true;
+void JanelaRelBanco::atualizaTela() {
     if (cmbFonte_->currentText() != c_.tela.CmbFonte.Text) cmbFonte_->setEditText(c_.tela.CmbFonte.Text);
     if (cmbTamanho_->currentText() != c_.tela.CmbTamanho.Text)
         cmbTamanho_->setEditText(c_.tela.CmbTamanho.Text);
     aplicaFonte();
     rtfRel_->atualiza();
-    sincronizando_ = false;
-    if (c_.fechada() && isVisible()) done(0);
 }
 
 void JanelaRelBanco::showEvent(QShowEvent* e) {
@@ -104,7 +100,7 @@ void JanelaRelBanco::showEvent(QShowEvent* e) {
         Qt::QueuedConnection);
 }
 
-void mostraRelBanco(Programa& p, QWidget* pai) {
+void mostraJanelaRelBanco(Programa& p, QWidget* pai) {
     JanelaRelBanco janela(p, pai);
     janela.mostraModal();
 }

@@ -3,7 +3,7 @@
 // the whole listing, and printing. Modal.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/RelBanco.h"
 
 class QComboBox;
@@ -16,7 +16,7 @@ class JanelaRelBanco : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaRelBanco(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
     RelBanco& logica() { return c_; }
 
 protected:
@@ -30,6 +30,6 @@ private:
 };
 
 // MenuImpBanco and toolbar button 4: shows the window modal.
-void mostraRelBanco(Programa& p, QWidget* pai);
+void mostraJanelaRelBanco(Programa& p, QWidget* pai);
 
 } // namespace sorvelo

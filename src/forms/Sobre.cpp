@@ -1,7 +1,9 @@
-#include "Sobre.h"
+#include "forms/Sobre.h"
 
-#include "Controles.h"
-#include "Ilustracoes.h"
+#include "forms/Janelas.h"
+
+#include "forms/Controles.h"
+#include "forms/Ilustracoes.h"
 #include "relatorios/Sobre.h"
 
 #include <QPushButton>
@@ -38,6 +40,10 @@ JanelaSobre::JanelaSobre(Programa& p, QWidget* pai)
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
     tamanho(5880, 3780);
+}
+
+void mostraJanelaSobre(Programa& p, QWidget* pai) {
+    JanelaSobre(p, pai).mostraModal();
 }
 
 } // namespace sorvelo

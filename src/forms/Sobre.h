@@ -1,7 +1,7 @@
 // The about box "Sobre o Sorvelo" (modal).
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 
 namespace sorvelo {
 

@@ -1,7 +1,7 @@
-#include "SortComb.h"
+#include "forms/SortComb.h"
 
-#include "Controles.h"
-#include "Sorvelo.h"
+#include "forms/Controles.h"
+#include "forms/Janelas.h"
 
 #include <QCloseEvent>
 #include <QFocusEvent>
@@ -14,6 +14,7 @@ namespace sorvelo {
 
 JanelaSortComb::JanelaSortComb(Programa& p, QWidget* pai)
     : Formulario(p, "SortComb", QStringLiteral("Sortear números para combinação"), pai), s_(p) {
+    ligaLogica(s_);
     tamanho(5160, 1500);
     rotulo(QStringLiteral("Informe a quantidade de números a sortear:"), 240, 300, 3540, 255, "Label1");
     txtDez_ = poe(new QLineEdit, this, "TxtDez", 3900, 240, 555, 315);
@@ -36,13 +37,12 @@ JanelaSortComb::JanelaSortComb(Programa& p, QWidget* pai)
     liga(cancelar, &QPushButton::clicked, [this] {
         if (!sorteando_) s_.BtnCancelar();
     });
-    s_.aoFechar = [this] { done(0); };
     // Each drawn cell is painted on the main window before the next pass.
     s_.aoMarcar = [this](Int16 c) {
-        auto* principal = qobject_cast<Sorvelo*>(parentWidget());
+        atualizaVistas();
+        QWidget* principal = parentWidget();
         if (!principal) return;
-        principal->sincroniza();
-        if (auto* celula = principal->findChild<CelulaNumero*>(QStringLiteral("Num(%1)").arg(c.valor())))
+        if (auto* celula = principal->findChild<QWidget*>(QStringLiteral("Num(%1)").arg(c.valor())))
             celula->repaint();
     };
 }
@@ -58,11 +58,9 @@ void JanelaSortComb::ok() {
     s_.BtnOK();
 }
 
-void JanelaSortComb::sincroniza() {
-    sincronizando_ = true;
+void JanelaSortComb::atualizaTela() {
     if (txtDez_->text() != s_.TxtDez) txtDez_->setText(s_.TxtDez);
     scrDez_->setValue(s_.ScrDez);
-    sincronizando_ = false;
 }
 
 void JanelaSortComb::showEvent(QShowEvent* e) {
@@ -74,11 +72,12 @@ void JanelaSortComb::showEvent(QShowEvent* e) {
 }
 
 void JanelaSortComb::closeEvent(QCloseEvent* e) {
+    // The frame cannot close the dialog while the draw runs.
     if (sorteando_) {
         e->ignore();
         return;
     }
-    e->accept();
+    Formulario::closeEvent(e);
 }
 
 bool JanelaSortComb::eventFilter(QObject* alvo, QEvent* e) {
@@ -86,6 +85,11 @@ bool JanelaSortComb::eventFilter(QObject* alvo, QEvent* e) {
     if (alvo == txtDez_ && e->type() == QEvent::FocusIn)
         selecionaAoFocar(txtDez_, static_cast<QFocusEvent*>(e));
     return Formulario::eventFilter(alvo, e);
+}
+
+void mostraJanelaSortComb(Programa& p, QWidget* pai) {
+    JanelaSortComb janela(p, pai);
+    janela.mostraModal();
 }
 
 } // namespace sorvelo

@@ -3,7 +3,7 @@
 // one, so that the person sees them appear.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "edicao/SortComb.h"
 
 class QLineEdit;
@@ -15,7 +15,7 @@ class JanelaSortComb : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaSortComb(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 protected:
     void showEvent(QShowEvent* e) override;

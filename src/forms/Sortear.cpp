@@ -1,4 +1,6 @@
-#include "Sortear.h"
+#include "forms/Sortear.h"
+
+#include "forms/Janelas.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -28,6 +30,7 @@ QScrollBar* JanelaSortear::barra(QWidget* pai, const char* nome, int x, int y, i
 
 JanelaSortear::JanelaSortear(Programa& p, QWidget* pai)
     : Formulario(p, "Sortear", QStringLiteral("Sortear apostas"), pai), s_(p) {
+    ligaLogica(s_);
     tamanho(8880, 5700);
     auto* frame2 = poe(new QGroupBox(QStringLiteral("Configurações")), this, "Frame2", 120, 120, 8640, 2940);
     escala_.rotulo(frame2, QStringLiteral("Informe a quantidade de apostas a sortear:"), 240, 360, 4560, 255,
@@ -91,11 +94,9 @@ JanelaSortear::JanelaSortear(Programa& p, QWidget* pai)
     liga(checkBox2_, &QCheckBox::toggled, [this](bool v) { s_.CheckBox2 = v; });
     liga(ok, &QPushButton::clicked, [this] { s_.BtnOK(); });
     liga(cancelar, &QPushButton::clicked, [this] { s_.BtnCancelar(); });
-    s_.aoFechar = [this] { done(0); };
 }
 
-void JanelaSortear::sincroniza() {
-    sincronizando_ = true;
+void JanelaSortear::atualizaTela() {
     poeTexto(txtQuant_, s_.TxtQuant);
     poeTexto(txtDez_, s_.TxtDez);
     poeTexto(txtMaisOco_, s_.TxtMaisOco);
@@ -110,7 +111,11 @@ void JanelaSortear::sincroniza() {
     scrDez_->setValue(s_.ScrDez);
     scrMaisOco_->setValue(s_.ScrMaisOco);
     scrMenosOco_->setValue(s_.ScrMenosOco);
-    sincronizando_ = false;
+}
+
+void mostraJanelaSortear(Programa& p, QWidget* pai) {
+    JanelaSortear janela(p, pai);
+    janela.mostraModal();
 }
 
 } // namespace sorvelo

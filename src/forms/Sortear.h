@@ -3,7 +3,7 @@
 // stay on the dialog without effect.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "edicao/Sortear.h"
 
 #include <array>
@@ -18,7 +18,7 @@ class JanelaSortear : public Formulario {
     Q_OBJECT
 public:
     explicit JanelaSortear(Programa& p, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 private:
     QScrollBar* barra(QWidget* pai, const char* nome, int x, int y, int valor);

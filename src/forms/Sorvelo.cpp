@@ -1,28 +1,20 @@
-#include "Sorvelo.h"
+#include "forms/Sorvelo.h"
 
-#include "Ajuda.h"
-#include "Combinacoes.h"
-#include "CombinacoesReduz.h"
-#include "ConfApostas.h"
-#include "Controles.h"
-#include "Desenhos.h"
-#include "Digitacao.h"
-#include "Eliminar.h"
-#include "Estatisticas.h"
-#include "Filtrar.h"
-#include "JogoAJogo.h"
-#include "Protecao.h"
-#include "RelBanco.h"
-#include "Sobre.h"
-#include "SortComb.h"
-#include "Sortear.h"
-#include "VerificaGarantia.h"
+#include "forms/Controles.h"
+#include "forms/Desenhos.h"
+#include "forms/Protecao.h"
+#include "combinacoes/Combinacao.h"
+#include "relatorios/Ajuda.h"
+#include "edicao/Eliminar.h"
+#include "edicao/Filtrar.h"
+#include "combinacoes/CombinacaoReduzida.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "edicao/Sortear.h"
+#include "forms/Janelas.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Sobre.h"
@@ -49,16 +41,6 @@ QColor qcor(Cor c) {
     return QColor(vermelho(c), verde(c), azul(c));
 }
 
-// Sets a text box's text from the model, leaving it alone when equal (so
-// that the caret of a person typing does not jump).
-void poeTexto(QLineEdit* w, const CampoTexto& c) {
-    if (w->text() != c.Text) w->setText(c.Text);
-    w->setEnabled(c.Enabled);
-}
-void poeCombo(QComboBox* w, const Combo& c) {
-    if (w->currentText() != c.Text) w->setEditText(c.Text);
-    w->setEnabled(c.Enabled);
-}
 QStringList itensGarantia(int ate) {
     QStringList l = palavrasGarantia();
     for (int i = 7; i <= ate; ++i)
@@ -67,14 +49,11 @@ QStringList itensGarantia(int ate) {
 }
 } // namespace
 
-Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(this) {
+Sorvelo::Sorvelo(Programa& p, JanelasFormas& janelas, QWidget* pai)
+    : QMainWindow(pai), FormaBase(p, this), janelas_(janelas) {
     setObjectName(QStringLiteral("Sorvelo"));
-    setProperty("sorvelo_forma", true);
     setWindowIcon(iconePrograma());
-    QFont fonte(QStringLiteral("Arial"));
-    fonte.setPointSize(8);
-    setFont(fonte);
-    FiltroEnter::instala();
+    janelas_.liga(p_, this);
 
     area_ = new QWidget(this);
     area_->setObjectName(QStringLiteral("AreaPrincipal"));
@@ -107,10 +86,7 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
     timer1_->setInterval(500);
     liga(timer1_, &QTimer::timeout, [this] { TickTimer1(p_); });
 
-    executaProtegido([this] {
-        CarregaPrincipal(p_);
-        InstalaArquivo(p_);
-    });
+    executaProtegido([this] { CarregaPrincipal(p_); });
     resize(tw(11880) - 8, tw(8900) - tw(705));
     sincroniza();
     timer1_->start();
@@ -118,31 +94,7 @@ Sorvelo::Sorvelo(Programa& p, QWidget* pai) : QMainWindow(pai), p_(p), escala_(t
 
 Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
-    delete janelaConf_.data();
-    delete janelaJogo_.data();
-}
-
-void Sorvelo::mostraHelp() {
-    // Over the topics when they are open.
-    QWidget* pai = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : this;
-    JanelaHelp(p_, pai).mostraModal();
-}
-
-void Sorvelo::mostraTopicos() {
-    JanelaTopicos(
-        p_, [this] { mostraHelp(); }, this)
-        .mostraModal();
-}
-
-void Sorvelo::mostraJogoAJogo() {
-    // An open view comes to the front as it stands.
-    if (janelaJogo_) {
-        janelaJogo_->raise();
-        janelaJogo_->activateWindow();
-        return;
-    }
-    janelaJogo_ = new JanelaJogoAJogo(p_, this);
-    janelaJogo_->mostra();
+    janelas_.apagaTodas();
 }
 
 template <typename F> void Sorvelo::age(F f) {
@@ -152,51 +104,6 @@ template <typename F> void Sorvelo::age(F f) {
 
 void Sorvelo::trocaJogo(const QString& nome) {
     TrocaLoteria(p_, nome);
-}
-
-JanelasCombinacao Sorvelo::janelasComb() {
-    return janelasCombinacao(this, [this] {
-        sincroniza();
-        txtBanco_->rolaParaFim();
-    });
-}
-
-void Sorvelo::abreConferencia() {
-    BtnConferir(p_, conf_);
-    if (!conf_) {
-        // The window's state is gone with the warning: the window goes now.
-        if (janelaConf_) {
-            janelaConf_->hide();
-            delete janelaConf_.data();
-        }
-        return;
-    }
-    if (janelaConf_) {
-        janelaConf_->ignoraProximaAtivacao();
-        janelaConf_->sincroniza();
-        janelaConf_->raise();
-        janelaConf_->activateWindow();
-        return;
-    }
-    ConfApostas* logica = conf_.get();
-    janelaConf_ = new JanelaConfApostas(p_, *logica, this);
-    connect(janelaConf_, &QObject::destroyed, this, [this, logica] {
-        if (conf_.get() == logica) conf_.reset();
-    });
-    janelaConf_->mostra();
-}
-
-void Sorvelo::abreDigitacao() {
-    if (janelaDigitacao_) {
-        janelaDigitacao_->raise();
-        janelaDigitacao_->activateWindow();
-        return;
-    }
-    janelaDigitacao_ = new JanelaDigitacao(p_, this);
-    // Beside the main window, on its right.
-    const QRect fora = frameGeometry();
-    janelaDigitacao_->move(fora.right() + 1, fora.top());
-    janelaDigitacao_->mostra();
 }
 
 void Sorvelo::montaMenus() {
@@ -239,15 +146,15 @@ void Sorvelo::montaMenus() {
 
     QMenu* relatorios = menu("MenuRelatorios", QStringLiteral("&Relatórios"));
     item(relatorios, "MenuImpBanco", QStringLiteral("Banco de apostas"),
-         [this] { mostraRelBanco(p_, this); });
+         [this] { p_.dialogos.mostraRelBanco(); });
     item(relatorios, "MenuVerificarGarantia", QStringLiteral("Verificar garantia"),
-         [this] { abreVerificaGarantia(p_, this); });
+         [this] { p_.dialogos.mostraVerificaGarantia(); });
     QMenu* internet = menu("MenuInternet", QStringLiteral("&Internet"));
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [this] { MenuNovidades(p_); });
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
-    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [this] { mostraTopicos(); });
+    item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [this] { p_.dialogos.mostraTopicos(); });
     item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"),
-         [this] { JanelaSobre(p_, this).mostraModal(); });
+         [this] { p_.dialogos.mostraSobre(); });
 }
 
 void Sorvelo::montaBarra() {
@@ -266,7 +173,7 @@ void Sorvelo::montaBarra() {
         {Imagem::Abrir, QStringLiteral("Abrir arquivo de jogos"), [this] { AbrirArquivo(p_); }},
         {Imagem::Salvar, QStringLiteral("Salvar jogos em arquivo"), [this] { SalvarArquivo(p_); }},
         {Imagem::Imprimir, QStringLiteral("Imprimir jogos na impressora"),
-         [this] { mostraRelBanco(p_, this); }},
+         [this] { p_.dialogos.mostraRelBanco(); }},
         {Imagem::Novo, QString(), nullptr},
         {Imagem::MegaSena, QStringLiteral("Seleciona Mega-Sena"), [this] { trocaJogo(jogos()[0].nome); }},
         {Imagem::DuplaSena, QStringLiteral("Seleciona Dupla Sena"), [this] { trocaJogo(jogos()[1].nome); }},
@@ -295,6 +202,7 @@ void Sorvelo::montaBarra() {
     txtLoteria_->setReadOnly(true);
     txtLoteria_->setAlignment(Qt::AlignCenter);
     txtLoteria_->setFocusPolicy(Qt::NoFocus);
+    vincula(txtLoteria_, p_.tela.TxtLoteria);
 }
 
 void Sorvelo::montaQuadroNumeros() {
@@ -315,10 +223,7 @@ void Sorvelo::montaQuadroNumeros() {
         p_.tela.PicSort1Left = 260;
         p_.tela.PicSort1Top = 3020;
     });
-    liga(picSort1_, &Figura::clicked, [this] {
-        JanelaSortComb janela(p_, this);
-        janela.mostraModal();
-    });
+    liga(picSort1_, &Figura::clicked, [this] { p_.dialogos.mostraSortComb(); });
     liga(picSort1_, &Figura::solto, [this] {
         p_.tela.PicSort1Left = 240;
         p_.tela.PicSort1Top = 3000;
@@ -330,10 +235,11 @@ void Sorvelo::montaQuadroNumeros() {
     txtEscolhidos_->setAlignment(Qt::AlignCenter);
     chkFixar_ =
         poe(new QCheckBox(QStringLiteral("Fixar números")), frame1_, "ChkFixar", 2760, 3030, 1500, 255);
-    liga(chkFixar_, &QCheckBox::clicked, [this](bool v) { p_.tela.ChkFixar.Value = v; });
+    vincula(chkFixar_, p_.tela.ChkFixar);
     rotulo(frame1_, QStringLiteral("Valor da aposta:"), 720, 3450, 1300, 255);
     txtValAp_ = poe(new QLineEdit, frame1_, "TxtValAp", 2040, 3390, 855, 315);
-    liga(txtValAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtValAp.Text = t; });
+    vincula(txtEscolhidos_, p_.tela.TxtEscolhidos);
+    vincula(txtValAp_, p_.tela.TxtValAp);
     auto* limpar =
         poe(new QPushButton(QStringLiteral("Limpar")), frame1_, "BtnLimpar", 4320, 3000, 1095, 375);
     liga(static_cast<QPushButton*>(limpar), &QPushButton::clicked, [this] { BtnLimpar(p_); });
@@ -353,6 +259,8 @@ void Sorvelo::montaQuadroBanco() {
     txtQuantApostas_ = poe(new QLineEdit, fraBanco_, "TxtQuantApostas", 1200, 3570, 1095, 315);
     rotulo(fraBanco_, QStringLiteral("Valor Total:"), 2460, 3630, 960, 255);
     txtValorApostas_ = poe(new QLineEdit, fraBanco_, "TxtValorApostas", 3420, 3570, 1335, 315);
+    vincula(txtQuantApostas_, p_.tela.TxtQuantApostas);
+    vincula(txtValorApostas_, p_.tela.TxtValorApostas);
     for (QLineEdit* t : {txtQuantApostas_, txtValorApostas_}) {
         t->setReadOnly(true);
         t->setAlignment(Qt::AlignRight);
@@ -363,13 +271,13 @@ void Sorvelo::montaQuadroBanco() {
     liga(limpaBanco, &QPushButton::clicked, [this] { BtnLimparBanco(p_); });
     auto* filtrar = poe(new QPushButton(QStringLiteral("Filtrar banco de apostas")), fraBanco_, "BtnFiltrar",
                         120, 4020, 2535, 375);
-    liga(filtrar, &QPushButton::clicked, [this] { BtnFiltrar(p_, mostraFiltrar(this)); });
+    liga(filtrar, &QPushButton::clicked, [this] { BtnFiltrar(p_); });
     auto* estatistica = poe(new QPushButton(QStringLiteral("Estatística de acerto")), fraBanco_,
                             "CommandButton2", 2760, 4020, 2415, 375);
-    liga(estatistica, &QPushButton::clicked, [this] { mostraEstatisticas(p_, this); });
+    liga(estatistica, &QPushButton::clicked, [this] { p_.dialogos.mostraEstatisticas(); });
     auto* conferir = poe(new QPushButton(QStringLiteral("Conferir banco")), fraBanco_, "BtnConferir", 120,
                          4440, 2535, 375);
-    liga(conferir, &QPushButton::clicked, [this] { abreConferencia(); });
+    liga(conferir, &QPushButton::clicked, [this] { BtnConferir(p_); });
     fraBanco_->setMouseTracking(true);
     fraBanco_->installEventFilter(this);
 }
@@ -383,7 +291,7 @@ void Sorvelo::montaQuadrosCombinacao() {
     auto* iniciar = poe(new QPushButton(QStringLiteral("Iniciar Combinação completa")), frame2_, "BtnIniciar",
                         2760, 330, 2655, 435);
     iniciar->setToolTip(QStringLiteral("Faz uma combinação para fazer o fechamento dos números escolhidos"));
-    liga(iniciar, &QPushButton::clicked, [this] { BtnIniciar(p_, janelasComb()); });
+    liga(iniciar, &QPushButton::clicked, [this] { BtnIniciar(p_); });
 
     frame5_ = poe(new QGroupBox(QStringLiteral("Combinações reduzidas")), picLoteria_, "Frame5", 120, 5280,
                   5655, 1695);
@@ -393,7 +301,7 @@ void Sorvelo::montaQuadrosCombinacao() {
     auto* reduz = poe(new QPushButton(QStringLiteral("Iniciar Combinação reduzida")), frame5_, "BtnReduz",
                       2760, 270, 2655, 435);
     reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
-    liga(reduz, &QPushButton::clicked, [this] { BtnReduz(p_, janelasReducao(this)); });
+    liga(reduz, &QPushButton::clicked, [this] { BtnReduz(p_); });
     rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
     cmbGarantia_ = poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
     cmbGarantia_->setEditable(true);
@@ -407,8 +315,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     chkReduzir_ = poe(new QCheckBox(QStringLiteral("Reduzir quant. de jogos ao mínimo possível")), frame5_,
                       "ChkReduzir", 240, 1380, 5000, 255);
 
-    liga(txtDezAp_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp.Text = t; });
-    liga(txtDezAp2_, &QLineEdit::textEdited, [this](const QString& t) { p_.tela.TxtDezAp2.Text = t; });
+    vincula(txtDezAp_, p_.tela.TxtDezAp);
+    vincula(txtDezAp2_, p_.tela.TxtDezAp2);
     // A spin button writes its value into its text box and gives it the focus.
     auto giro = [this](BotaoGiro* botao, Spin& spin, CampoTexto& campo, QLineEdit* caixa) {
         liga(botao, &BotaoGiro::valueChanged, [this, &spin, &campo, caixa](int v) {
@@ -419,13 +327,13 @@ void Sorvelo::montaQuadrosCombinacao() {
     };
     giro(spbDezAp_, p_.tela.SpbDezAp, p_.tela.TxtDezAp, txtDezAp_);
     giro(spbDezAp2_, p_.tela.SpbDezAp2, p_.tela.TxtDezAp2, txtDezAp2_);
-    liga(cmbGarantia_, &QComboBox::editTextChanged,
-         [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
+    vincula(cmbGarantia_, p_.tela.CmbGarantia);
     liga(cmbGarantia_, &QComboBox::activated, [this](int) {
         p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
         CliqueGarantia(p_);
     });
-    liga(cmbAcertar_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbAcertar.Text = t; });
+    vincula(cmbAcertar_, p_.tela.CmbAcertar);
+    vincula(chkReduzir_, p_.tela.ChkReduzir);
     liga(chkReduzir_, &QCheckBox::clicked, [this](bool v) { CliqueReduzir(p_, v); });
     for (QWidget* q : {static_cast<QWidget*>(frame2_), static_cast<QWidget*>(frame5_)}) {
         q->setMouseTracking(true);
@@ -446,10 +354,10 @@ void Sorvelo::montaQuadroOpcoes() {
     cmbFecha_ = poe(new QComboBox, frame3_, "CmbFecha", 1260, 270, 1215, 315);
     cmbFecha_->setEditable(true);
     cmbFecha_->addItems(itensGarantia(15));
-    liga(cmbFecha_, &QComboBox::editTextChanged, [this](const QString& t) { p_.tela.CmbFecha.Text = t; });
+    vincula(cmbFecha_, p_.tela.CmbFecha);
     btnFechar_ = poe(new QPushButton(QStringLiteral("Iniciar fechamento")), frame3_, "BtnFechar", 2640, 240,
                      2655, 375);
-    liga(btnFechar_, &QPushButton::clicked, [this] { BtnFechar(p_, janelasComb()); });
+    liga(btnFechar_, &QPushButton::clicked, [this] { BtnFechar(p_); });
     auto* sortear = poe(new QPushButton(QStringLiteral("Sortear apostas pelo computador")), frame3_,
                         "BtnSortear", 240, 600, 2535, 330);
     auto* jogoAJogo =
@@ -458,14 +366,10 @@ void Sorvelo::montaQuadroOpcoes() {
         poe(new QPushButton(QStringLiteral("Digitar apostas")), frame3_, "BtnDigitar", 240, 1080, 2535, 375);
     auto* eliminar = poe(new QPushButton(QStringLiteral("Eliminação de números")), frame3_, "BtnEliminar",
                          2880, 1080, 2415, 375);
-    liga(eliminar, &QPushButton::clicked, [this] { BtnEliminar(p_, mostraEliminar(this)); });
-    liga(sortear, &QPushButton::clicked, [this] {
-        BtnSortear(p_);
-        JanelaSortear janela(p_, this);
-        janela.mostraModal();
-    });
-    liga(digitar, &QPushButton::clicked, [this] { abreDigitacao(); });
-    liga(jogoAJogo, &QPushButton::clicked, [this] { mostraJogoAJogo(); });
+    liga(eliminar, &QPushButton::clicked, [this] { BtnEliminar(p_); });
+    liga(sortear, &QPushButton::clicked, [this] { BtnSortear(p_); });
+    liga(digitar, &QPushButton::clicked, [this] { p_.dialogos.mostraDigitacao(); });
+    liga(jogoAJogo, &QPushButton::clicked, [this] { p_.dialogos.mostraJogoAJogo(); });
     frame3_->setMouseTracking(true);
     frame3_->installEventFilter(this);
     for (QWidget* b : {static_cast<QWidget*>(btnFechar_), static_cast<QWidget*>(sortear),
@@ -501,33 +405,18 @@ void Sorvelo::montaAjuda() {
         f->setToolTip(QStringLiteral("O que é isto?"));
         f->hide();
         helpRotina_[k] = f;
-        liga(f, &Figura::clicked, [this, k] { ClicaHelpRotina(p_, int(k), [this] { mostraHelp(); }); });
+        liga(f, &Figura::clicked, [this, k] { ClicaHelpRotina(p_, int(k)); });
     }
 }
 
-void Sorvelo::sincroniza() {
-    sincronizando_ = true;
+void Sorvelo::atualizaTela() {
     const auto& t = p_.tela;
-    const auto& e = p_.e;
-    Q_UNUSED(e);
     for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
         const Celula& c = t.celulas[size_t(i)];
         num_[size_t(i)]->define(c.Text, qcor(c.BackColor), qcor(c.ForeColor));
     }
-    poeTexto(txtEscolhidos_, t.TxtEscolhidos);
-    poeTexto(txtValAp_, t.TxtValAp);
-    poeTexto(txtDezAp_, t.TxtDezAp);
-    poeTexto(txtDezAp2_, t.TxtDezAp2);
-    poeTexto(txtLoteria_, t.TxtLoteria);
-    poeTexto(txtQuantApostas_, t.TxtQuantApostas);
-    poeTexto(txtValorApostas_, t.TxtValorApostas);
     spbDezAp_->setValueSilencioso(t.SpbDezAp.Value);
     spbDezAp2_->setValueSilencioso(t.SpbDezAp2.Value);
-    chkFixar_->setChecked(t.ChkFixar.Value);
-    chkReduzir_->setChecked(t.ChkReduzir.Value);
-    poeCombo(cmbFecha_, t.CmbFecha);
-    poeCombo(cmbGarantia_, t.CmbGarantia);
-    poeCombo(cmbAcertar_, t.CmbAcertar);
     btnFechar_->setEnabled(t.BtnFecharEnabled);
     menuMegaSena_->setChecked(t.MenuMegaSena);
     menuDuplaSena_->setChecked(t.MenuDuplaSena);
@@ -537,6 +426,10 @@ void Sorvelo::sincroniza() {
     if (windowTitle() != t.Caption) setWindowTitle(t.Caption);
     txtBanco_->setVisible(t.TxtBanco.visivel());
     txtBanco_->atualiza();
+    if (caretNoFimVisto_ != t.TxtBanco.pedidosCaretNoFim()) {
+        caretNoFimVisto_ = t.TxtBanco.pedidosCaretNoFim();
+        txtBanco_->rolaParaFim();
+    }
     aplicaLayout();
     for (size_t k = 0; k < helpRotina_.size(); ++k)
         helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
@@ -547,7 +440,6 @@ void Sorvelo::sincroniza() {
     }
     if (barraVert_->value() != t.BarraVert.Value) barraVert_->setValue(t.BarraVert.Value);
     if (barraHoriz_->value() != t.BarraHoriz.Value) barraHoriz_->setValue(t.BarraHoriz.Value);
-    sincronizando_ = false;
 }
 
 void Sorvelo::aplicaLayout() {

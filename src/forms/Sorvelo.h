@@ -3,11 +3,9 @@
 // in src/core and mirrors the logic's model of its controls.
 #pragma once
 
-#include "Montagem.h"
-#include "core/Estado.h"
+#include "forms/Formulario.h"
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <array>
 #include <memory>
@@ -26,34 +24,25 @@ class QToolBar;
 namespace sorvelo {
 
 class AreaRica;
-class ConfApostas;
-class JanelaConfApostas;
-class JanelaDigitacao;
-class JanelaJogoAJogo;
-struct JanelasCombinacao;
 class BotaoGiro;
+class JanelasFormas;
 class CelulaNumero;
 class Figura;
 
-class Sorvelo : public QMainWindow {
+class Sorvelo : public QMainWindow, public FormaBase {
     Q_OBJECT
 public:
-    // Runs the form's load on the program's state.
-    explicit Sorvelo(Programa& p, QWidget* pai = nullptr);
+    // Runs the form's load on the program's state; the dialogs that the
+    // logic asks for come up over this window.
+    Sorvelo(Programa& p, JanelasFormas& janelas, QWidget* pai = nullptr);
     ~Sorvelo() override;
-
-    Programa& programa() { return p_; }
-    // The logic's model of the controls onto the widgets.
-    void sincroniza();
-    // Twips to pixels at this screen's resolution (15 twips a pixel at 96 DPI).
-    int tw(int twips) const { return escala_.tw(twips); }
-    int deTw(int pixels) const { return escala_.deTw(pixels); }
 
 signals:
     // The close flow ran: the program ends.
     void encerrado();
 
 protected:
+    void atualizaTela() override;
     void closeEvent(QCloseEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
     bool eventFilter(QObject* alvo, QEvent* e) override;
@@ -68,27 +57,10 @@ private:
     void montaAjuda();
     // Runs a handler of the form: failures to the top, then the screen.
     template <typename F> void age(F f);
-    template <typename S, typename Sinal, typename F> void liga(S* emissor, Sinal sinal, F f) {
-        ligaProtegido(
-            this, emissor, sinal, &sincronizando_, [this] { sincroniza(); }, std::move(f));
-    }
-    template <typename W> W* poe(W* w, QWidget* pai, const char* nome, int x, int y, int l, int a) {
-        return escala_.poe(w, pai, nome, x, y, l, a);
-    }
-    QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a) {
-        return escala_.rotulo(pai, texto, x, y, l, a);
-    }
     void trocaJogo(const QString& nome);
-    void abreConferencia();
-    void abreDigitacao();
-    void mostraHelp();
-    void mostraTopicos();
-    void mostraJogoAJogo();
-    JanelasCombinacao janelasComb();
     void aplicaLayout();
 
-    Programa& p_;
-    Escala escala_;
+    JanelasFormas& janelas_;
     QWidget* area_ = nullptr;
     QToolBar* barraSup_ = nullptr;
     QLineEdit* txtLoteria_ = nullptr;
@@ -110,12 +82,8 @@ private:
     QAction *menuMegaSena_ = nullptr, *menuDuplaSena_ = nullptr, *menuQuina_ = nullptr,
             *menuLotomania_ = nullptr, *menuLotoFacil_ = nullptr;
     QTimer* timer1_ = nullptr;
-    std::unique_ptr<ConfApostas> conf_;
-    QPointer<JanelaConfApostas> janelaConf_;
-    QPointer<JanelaDigitacao> janelaDigitacao_;
-    QPointer<JanelaJogoAJogo> janelaJogo_;
-    int imagemSort1_ = 0; // the picture PicSort1 shows now
-    bool sincronizando_ = false;
+    int imagemSort1_ = 0;          // the picture PicSort1 shows now
+    uint64_t caretNoFimVisto_ = 0; // requests of TxtBanco's caret at the end followed
     bool fechado_ = false;
 };
 

@@ -1,4 +1,4 @@
-#include "VerificaGarantia.h"
+#include "forms/VerificaGarantia.h"
 
 #include "platform/qt/AreaRica.h"
 
@@ -8,6 +8,7 @@ namespace sorvelo {
 
 JanelaVerificaGarantia::JanelaVerificaGarantia(Programa& p, VerificaGarantia& logica, QWidget* pai)
     : Formulario(p, "VerificaGarantia", logica.tela.Caption, pai), v_(logica) {
+    ligaLogica(v_);
     QFont grande(QStringLiteral("Arial"), 12);
     grande.setBold(true);
     rotulo(v_.tela.LblTitulo, 120, 120, 9000, 400, "LblTitulo")->setFont(grande);
@@ -20,12 +21,11 @@ JanelaVerificaGarantia::JanelaVerificaGarantia(Programa& p, VerificaGarantia& lo
     tamanho(9500, 6100);
 }
 
-void JanelaVerificaGarantia::sincroniza() {
+void JanelaVerificaGarantia::atualizaTela() {
     rtf_->atualiza();
-    if (v_.fechada() && isVisible()) close();
 }
 
-void abreVerificaGarantia(Programa& p, QWidget* pai) {
+void mostraJanelaVerificaGarantia(Programa& p, QWidget* pai) {
     VerificaGarantia logica(p);
     logica.Carrega();
     JanelaVerificaGarantia janela(p, logica, pai);

@@ -3,7 +3,7 @@
 // main window at each opening.
 #pragma once
 
-#include "Formulario.h"
+#include "forms/Formulario.h"
 #include "relatorios/GarantiaBanco.h"
 
 namespace sorvelo {
@@ -14,7 +14,7 @@ class JanelaVerificaGarantia : public Formulario {
     Q_OBJECT
 public:
     JanelaVerificaGarantia(Programa& p, VerificaGarantia& logica, QWidget* pai = nullptr);
-    void sincroniza() override;
+    void atualizaTela() override;
 
 private:
     VerificaGarantia& v_;
@@ -22,6 +22,6 @@ private:
 };
 
 // "Verificar garantia" on the menu Relatórios: counts, then shows the window.
-void abreVerificaGarantia(Programa& p, QWidget* pai);
+void mostraJanelaVerificaGarantia(Programa& p, QWidget* pai);
 
 } // namespace sorvelo

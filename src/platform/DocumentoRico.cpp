@@ -1,6 +1,6 @@
-#include "DocumentoRico.h"
+#include "platform/DocumentoRico.h"
 
-#include "../core/Semantica.h"
+#include "base/Semantica.h"
 
 #include <algorithm>
 #include <new>
@@ -17,7 +17,7 @@ uint16_t DocumentoRico::indiceFormato(Formato f) {
 
 void DocumentoRico::mudou() {
     ++versao_;
-    if (aoMudar) aoMudar();
+    aoMudar();
 }
 
 void DocumentoRico::defineTexto(const QString& texto) {

@@ -3,10 +3,11 @@
 // The Qt view (platform/qt/AreaRica) paints it; the logic writes it.
 #pragma once
 
+#include "base/Aviso.h"
+
 #include <QString>
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace sorvelo {
@@ -73,7 +74,11 @@ public:
     void defineVisivel(bool v);
 
     // Raised on every change of the content.
-    std::function<void()> aoMudar;
+    Aviso<> aoMudar;
+    // The caret put at the end of the text, the end brought into sight (the
+    // view counts the requests it has followed).
+    void caretNoFim() { ++pedidosCaretNoFim_; }
+    uint64_t pedidosCaretNoFim() const { return pedidosCaretNoFim_; }
     // Grows with every change of the content or of the visibility.
     uint64_t versao() const { return versao_; }
     // Grows each time the whole content is replaced (defineTexto, limpa), so
@@ -95,6 +100,7 @@ private:
     bool visivel_ = true;
     uint64_t versao_ = 0;
     uint64_t geracao_ = 0;
+    uint64_t pedidosCaretNoFim_ = 0;
 };
 
 } // namespace sorvelo

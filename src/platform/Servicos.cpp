@@ -1,4 +1,4 @@
-#include "Servicos.h"
+#include "platform/Servicos.h"
 
 #include <cstring>
 

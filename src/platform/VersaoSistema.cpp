@@ -1,4 +1,4 @@
-#include "VersaoSistema.h"
+#include "platform/VersaoSistema.h"
 
 namespace sorvelo {
 

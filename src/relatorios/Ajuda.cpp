@@ -1,4 +1,4 @@
-#include "Ajuda.h"
+#include "relatorios/Ajuda.h"
 
 #include <QDir>
 
@@ -18,13 +18,13 @@ bool TeclaFechaAjuda(int codigo) {
     return codigo == 13 || codigo == 27;
 }
 
-Help::Help(Programa& p) : RTFHelp(MontaPaginaHelp(p.e.TopicoHelp.valor())) {
+Help::Help(Nucleo& p) : LogicaDialogo(p, Cancelar::Nenhum), RTFHelp(MontaPaginaHelp(p.e.TopicoHelp.valor())) {
     LblTitulo = RTFHelp.titulo;
 }
 
 bool Help::TeclaComando(int codigo) {
     if (!TeclaFechaAjuda(codigo)) return false;
-    fechada_ = true;
+    fecha();
     return true;
 }
 
@@ -42,11 +42,11 @@ int PaginaDoTopico(int indice) {
     return indice - 1;
 }
 
-QString CaminhoTutorial(Programa& p) {
+QString CaminhoTutorial(Nucleo& p) {
     return QDir(p.s.pasta->caminho()).filePath(QStringLiteral("Sorvelo.doc"));
 }
 
-void AbreTopico(Programa& p, int Index, const std::function<void()>& mostraHelp) {
+void AbreTopico(Nucleo& p, int Index) {
     const int pagina = PaginaDoTopico(Index);
     if (pagina < 0) {
         // The desktop's answer is not looked at: a missing file says nothing.
@@ -54,13 +54,13 @@ void AbreTopico(Programa& p, int Index, const std::function<void()>& mostraHelp)
         return;
     }
     p.e.TopicoHelp = Int16::de(int64_t(pagina));
-    mostraHelp();
+    p.dialogos.mostraHelp();
 }
 
-void ClicaHelpRotina(Programa& p, int Index, const std::function<void()>& mostraHelp) {
+void ClicaHelpRotina(Nucleo& p, int Index) {
     if (Index < 0 || Index >= QuantPaginasAjuda) throw falhaElementoControle(Index);
     p.e.TopicoHelp = Int16::de(int64_t(Index));
-    mostraHelp();
+    p.dialogos.mostraHelp();
 }
 
 } // namespace sorvelo

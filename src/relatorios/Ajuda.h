@@ -2,6 +2,7 @@
 // form `Topicos` and the tutorial document beside the program.
 #pragma once
 
+#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
 
 #include <QString>
@@ -47,19 +48,16 @@ bool TeclaFechaAjuda(int codigo);
 
 // The page form `Help`, as logic: its load reads TopicoHelp and builds the
 // page; a click in the text, Enter or Esc close it.
-class Help {
+class Help : public LogicaDialogo {
 public:
-    explicit Help(Programa& p);
+    explicit Help(Nucleo& p);
     QString LblTitulo;
     PaginaMontada RTFHelp;
     // A click in RTFHelp.
-    void ClicaTexto() { fechada_ = true; }
+    void ClicaTexto() { fecha(); }
     // A key in TxtComando; true when the key is dropped (Enter, Esc).
     bool TeclaComando(int codigo);
-    bool fechada() const { return fechada_; }
-
-private:
-    bool fechada_ = false;
+    bool fechada() const { return !aberto(); }
 };
 
 // The topics form.
@@ -69,12 +67,12 @@ QString TextoTopico(int indice);
 // The page a topic opens; -1 for the tutorial (index 0).
 int PaginaDoTopico(int indice);
 // The tutorial document: "Sorvelo.doc" in the program's folder.
-QString CaminhoTutorial(Programa& p);
+QString CaminhoTutorial(Nucleo& p);
 // A click on Book(Index) or LblHelp(Index): the tutorial opens through the
 // desktop (no message whether it is there or not); any other topic sets
-// TopicoHelp and shows the page form, modal, through `mostraHelp`.
-void AbreTopico(Programa& p, int Index, const std::function<void()>& mostraHelp);
+// TopicoHelp and shows the page form, modal, through p.dialogos.
+void AbreTopico(Nucleo& p, int Index);
 // A click on the main window's HelpRotina(Index).
-void ClicaHelpRotina(Programa& p, int Index, const std::function<void()>& mostraHelp);
+void ClicaHelpRotina(Nucleo& p, int Index);
 
 } // namespace sorvelo

@@ -1,4 +1,4 @@
-#include "Cobertura.h"
+#include "relatorios/Cobertura.h"
 
 #include <array>
 #include <bit>

@@ -1,10 +1,10 @@
-#include "Conferencia.h"
+#include "relatorios/Conferencia.h"
 
-#include "../core/BancoApostas.h"
-#include "../core/Grade.h"
-#include "../core/Loteria.h"
-#include "Pontuacao.h"
-#include "PontuacaoRapida.h"
+#include "core/BancoApostas.h"
+#include "core/Grade.h"
+#include "core/Loteria.h"
+#include "relatorios/Pontuacao.h"
+#include "relatorios/PontuacaoRapida.h"
 
 namespace sorvelo {
 
@@ -12,7 +12,7 @@ void EscreveRTF(DocumentoRico& RTFConf, const QString& S, bool Bold) {
     RTFConf.acrescenta(S, CorLog, Bold);
 }
 
-void InsereRTF(const Programa& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos) {
+void InsereRTF(const Nucleo& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos) {
     QString linha = formata(int64_t(X.valor()) + 1, 5);
     linha += QStringLiteral(")   ");
     linha += RetApostaVetBan(p, X);
@@ -39,9 +39,9 @@ void ConfApostas::Carrega() {
 bool ConfApostas::Ativa() {
     if (p_.e.VetDezenas(0) == u'#') {
         p_.s.caixa->aviso(QStringLiteral("Informe o resultado na seção \"Escolha de números\""));
-        fechada_ = true;
+        fecha();
     }
-    return !fechada_;
+    return aberto();
 }
 
 void ConfApostas::BtnIniciar() {
@@ -49,8 +49,7 @@ void ConfApostas::BtnIniciar() {
     DocumentoRico& rtf = tela.RTFConf;
     for (int i = 0; i <= 99; ++i)
         VetPontos(i) = 0;
-    tela.LblMensagem = QStringLiteral("Aguarde, conferindo apostas...");
-    if (aoMudarMensagem) aoMudarMensagem();
+    mensagem(QStringLiteral("Aguarde, conferindo apostas..."));
     p_.s.cedencia->cede();
 
     rtf.defineVisivel(false);
@@ -83,7 +82,8 @@ void ConfApostas::BtnIniciar() {
                        true);
     }
     rtf.defineVisivel(true);
-    tela.LblMensagem = QStringLiteral("Concluído.");
+    // Seen with the box: the forms are brought up to date before it.
+    LblMensagem = QStringLiteral("Concluído.");
     p_.s.caixa->informacao(QStringLiteral("Conferência concluída!"));
 }
 
@@ -100,16 +100,14 @@ void ConfApostas::Redimensiona(int largura, int altura) {
     tela.RTFConfHeight = altura - 3000;
 }
 
-bool BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma) {
+void BtnConferir(Nucleo& p) {
     CarregaNumeros(p);
     CarregaVetDezEsc(p);
-    if (!forma || forma->fechada()) {
-        forma = std::make_unique<ConfApostas>(p);
-        forma->Carrega();
-        return true;
-    }
-    if (!forma->Ativa()) forma.reset();
-    return false;
+    p.dialogos.mostraConfApostas();
+}
+
+bool MostraConfApostasAberta(ConfApostas& forma) {
+    return forma.Ativa();
 }
 
 } // namespace sorvelo

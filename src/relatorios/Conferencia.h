@@ -3,10 +3,8 @@
 // binds, and the main window's button that opens it.
 #pragma once
 
-#include "../core/Estado.h"
-
-#include <functional>
-#include <memory>
+#include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 namespace sorvelo {
 
@@ -15,7 +13,7 @@ void EscreveRTF(DocumentoRico& RTFConf, const QString& S, bool Bold);
 // The line of bet X (row of VetBan) with its score at the end of a listing:
 // "00012)   01 02 03 04 05 06   4 pontos", the first 6 characters dark red,
 // the rest blue.
-void InsereRTF(const Programa& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos);
+void InsereRTF(const Nucleo& p, DocumentoRico& RTFConf, Int32 X, Int16 Pontos);
 // The threshold of a game, as the window starts.
 QString pontosPadrao(const QString& NomeLoteria);
 
@@ -26,7 +24,6 @@ struct TelaConfApostas {
     QString Label4 = QStringLiteral("Mostrar somente jogos com quantidade de pontos maior ou igual a");
     CampoTexto TxtPontos;
     QString Label5 = QStringLiteral("pontos");
-    QString LblMensagem;
     DocumentoRico RTFConf;
     QString BtnIniciar = QStringLiteral("Iniciar conferência");
     QString BtnImprimir = QStringLiteral("Imprimir");
@@ -39,12 +36,10 @@ struct TelaConfApostas {
 // being used behind it. The result it verifies is the snapshot that the
 // last press of "Conferir banco" left in VetDezenas and DezEscolhidas; the
 // bank, its file name and the game are read when "Iniciar conferência" is
-// pressed.
-class ConfApostas {
+// pressed. Its cancel only closes it; so do Esc and the window's frame.
+class ConfApostas : public LogicaDialogo {
 public:
-    explicit ConfApostas(Programa& p) : p_(p) {}
-    ConfApostas(const ConfApostas&) = delete;
-    ConfApostas& operator=(const ConfApostas&) = delete;
+    explicit ConfApostas(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {}
 
     // Form load: the threshold of the game, the Dupla Sena reminder, the title.
     void Carrega();
@@ -53,31 +48,24 @@ public:
     bool Ativa();
     void BtnIniciar();
     void BtnImprimir();
-    void BtnCancelar() { fechada_ = true; }
     // Resize with the window's size in twips.
     void Redimensiona(int largura, int altura);
 
-    bool fechada() const { return fechada_; }
+    bool fechada() const { return !aberto(); }
     TelaConfApostas tela;
-    // Called when LblMensagem changes in the middle of a run, so that the
-    // window shows it before the yield.
-    std::function<void()> aoMudarMensagem;
     // Listed bets per score; only 0 to 99 are cleared and reported.
     Vetor<Int16> VetPontos{0, 100};
-
-private:
-    Programa& p_;
-    bool fechada_ = false;
 };
 
 // "Conferir banco" on the main window: takes the result from the grid
-// (CarregaNumeros, CarregaVetDezEsc), then shows the window. When it isn't
-// open (or was closed) it is loaded anew and true is returned: the caller
-// shows it, and its first activation (Ativa) comes once it stands on the
+// (CarregaNumeros, CarregaVetDezEsc), then asks for the window. When it
+// isn't open (or was closed) it is loaded anew (ConfApostas, Carrega) and
+// shown, and its first activation (Ativa) comes once it stands on the
 // screen, so that the warning of an empty result closes a window that has
 // appeared. When it is open it is only brought back, without a new load:
-// that return runs the activation test here, and when the test closes the
-// window, `forma` is reset.
-bool BtnConferir(Programa& p, std::unique_ptr<ConfApostas>& forma);
+// that return runs the activation test (MostraConfApostasAberta).
+void BtnConferir(Nucleo& p);
+// The return to an open window: false when the test closed it.
+bool MostraConfApostasAberta(ConfApostas& forma);
 
 } // namespace sorvelo

@@ -1,20 +1,20 @@
-#include "EntraTexto.h"
+#include "relatorios/EntraTexto.h"
 
 namespace sorvelo {
 
 void EntraTexto::Carrega() {
-    tela.LblMensagem = e_.TextoPrompt;
-    tela.TxtTexto.Text = e_.TextoDigitado;
+    tela.LblMensagem = p_.e.TextoPrompt;
+    tela.TxtTexto.Text = p_.e.TextoDigitado;
 }
 
 void EntraTexto::BtnOK() {
-    e_.TextoDigitado = tela.TxtTexto.Text;
-    fechada_ = true;
+    p_.e.TextoDigitado = tela.TxtTexto.Text;
+    fecha();
 }
 
 void EntraTexto::BtnCancelar() {
-    e_.TextoDigitado = textoCancelar();
-    fechada_ = true;
+    p_.e.TextoDigitado = textoCancelar();
+    fecha();
 }
 
 } // namespace sorvelo

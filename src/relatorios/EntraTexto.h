@@ -4,7 +4,8 @@
 // TextoDigitado, where "CANCELAR" means that the user gave up.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/LogicaDialogo.h"
+#include "core/Estado.h"
 
 namespace sorvelo {
 
@@ -27,21 +28,17 @@ struct TelaEntraTexto {
 
 // The prompt while it is loaded. Closing it any other way than by its two
 // buttons leaves TextoDigitado with the proposed value.
-class EntraTexto {
+class EntraTexto : public LogicaDialogo {
 public:
-    explicit EntraTexto(Estado& e) : e_(e) {}
+    explicit EntraTexto(Nucleo& p) : LogicaDialogo(p, Cancelar::Nenhum) {}
     // Load: the question and the proposed value into the controls.
     void Carrega();
     // OK: the typed text becomes the answer.
     void BtnOK();
     // Cancelar: the answer is "CANCELAR".
-    void BtnCancelar();
-    bool fechada() const { return fechada_; }
+    void BtnCancelar() override;
+    bool fechada() const { return !aberto(); }
     TelaEntraTexto tela;
-
-private:
-    Estado& e_;
-    bool fechada_ = false;
 };
 
 } // namespace sorvelo

@@ -1,9 +1,9 @@
-#include "Estatisticas.h"
+#include "relatorios/Estatisticas.h"
 
-#include "Conferencia.h"
-#include "EntraTexto.h"
-#include "Pontuacao.h"
-#include "PontuacaoRapida.h"
+#include "relatorios/Conferencia.h"
+#include "relatorios/EntraTexto.h"
+#include "relatorios/Pontuacao.h"
+#include "relatorios/PontuacaoRapida.h"
 
 #include <array>
 #include <bit>
@@ -19,7 +19,7 @@
 
 namespace sorvelo {
 
-void SorteiaResultado(Programa& p, Int16& ContDezenas) {
+void SorteiaResultado(Nucleo& p, Int16& ContDezenas) {
     Estado& e = p.e;
     ContDezenas = 0;
     while (ContDezenas < e.DezMin) {
@@ -42,7 +42,7 @@ void Estatisticas::BtnEstatistica() {
     Estado& e = p_.e;
     e.TextoPrompt = QStringLiteral("Informe a quantidade de conferências a efetuar:");
     e.TextoDigitado = QStringLiteral("100");
-    if (mostraEntraTexto) mostraEntraTexto();
+    p_.dialogos.mostraEntraTexto();
     if (respostaCancelada(e.TextoDigitado)) return;
     QuantTestes = Int16::de(valorNumerico(e.TextoDigitado));
     executa();
@@ -68,7 +68,7 @@ bool conjuntoDoSorteio(const Vetor<QString>& sorteio, ConjuntoDezenas& d) {
 // the overflow failure there. Irregular rows are scored by the text
 // comparison at their turn.
 SORVELO_CONTAGEM_DE_BITS
-void contaApostas(const Programa& p, const IndiceApostas& indice, const ConjuntoDezenas d, int64_t quant,
+void contaApostas(const Nucleo& p, const IndiceApostas& indice, const ConjuntoDezenas d, int64_t quant,
                   int minimo, std::array<int32_t, 101>& cont) {
     const ConjuntoDezenas* c = &indice.conjunto(0);
     for (int64_t i = 0; i < quant; ++i) {
@@ -86,7 +86,7 @@ void contaApostas(const Programa& p, const IndiceApostas& indice, const Conjunto
 }
 
 // The same with a draw that a single set can't hold.
-void contaApostas(const Programa& p, const IndiceApostas& indice, const SorteioRapido& sorteio, int64_t quant,
+void contaApostas(const Nucleo& p, const IndiceApostas& indice, const SorteioRapido& sorteio, int64_t quant,
                   int minimo, std::array<int32_t, 101>& cont) {
     for (int64_t i = 0; i < quant; ++i) {
         const ConjuntoDezenas& c = indice.conjunto(i);

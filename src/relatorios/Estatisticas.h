@@ -4,7 +4,8 @@
 // how many bets reached each score from the threshold on.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/LogicaDialogo.h"
+#include "core/Estado.h"
 
 #include <functional>
 
@@ -16,7 +17,7 @@ class IndiceApostas;
 // Int(Rnd * NumFim) + NumIni (so Lotomania never draws 99), in the order of
 // drawing, "#" behind the last. A repeated number is drawn again. The
 // generator is never seeded here.
-void SorteiaResultado(Programa& p, Int16& ContDezenas);
+void SorteiaResultado(Nucleo& p, Int16& ContDezenas);
 
 // The controls of the window, as the form shows them. The caption is the
 // verification window's, on purpose.
@@ -37,27 +38,20 @@ struct TelaEstatisticas {
 
 // The window while it is loaded (modal). A run has no yield and no cancel:
 // the only way out is "CANCELAR" at the prompt.
-class Estatisticas {
+class Estatisticas : public LogicaDialogo {
 public:
-    explicit Estatisticas(Programa& p) : p_(p) {}
-    Estatisticas(const Estatisticas&) = delete;
-    Estatisticas& operator=(const Estatisticas&) = delete;
+    explicit Estatisticas(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {}
 
     // Form load: the threshold of the game.
     void Carrega();
     // Asks for the number of tests through the text prompt, then runs them.
     void BtnEstatistica();
     void BtnImprimir();
-    void BtnCancelar() { fechada_ = true; }
     // Resize with the window's size in twips.
     void Redimensiona(int largura, int altura);
 
-    bool fechada() const { return fechada_; }
+    bool fechada() const { return !aberto(); }
     TelaEstatisticas tela;
-    // Shows the text prompt modal (it reads and writes TextoPrompt and
-    // TextoDigitado). Unset, the prompt closes at once and the proposed
-    // value stands.
-    std::function<void()> mostraEntraTexto;
 
     Int16 QuantTestes, TestesPontuados, ContDezenas;
     // Bets per score in the test in hand, and over all tests of the run;
@@ -68,8 +62,6 @@ public:
 private:
     void executa();
     void contaTeste(IndiceApostas& indice);
-    Programa& p_;
-    bool fechada_ = false;
 };
 
 } // namespace sorvelo

@@ -1,6 +1,6 @@
-#include "Garantia.h"
+#include "relatorios/Garantia.h"
 
-#include "../core/Semantica.h"
+#include "base/Semantica.h"
 
 #include <algorithm>
 #include <array>

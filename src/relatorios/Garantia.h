@@ -5,8 +5,8 @@
 // the player whether "Garantia de t se acertar p" holds for this bank.
 #pragma once
 
-#include "../core/MatrizTexto.h"
-#include "Cobertura.h"
+#include "base/MatrizTexto.h"
+#include "relatorios/Cobertura.h"
 
 #include <QString>
 #include <QStringList>

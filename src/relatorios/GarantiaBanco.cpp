@@ -1,7 +1,7 @@
-#include "GarantiaBanco.h"
+#include "relatorios/GarantiaBanco.h"
 
-#include "../core/BancoApostas.h"
-#include "../core/Semantica.h"
+#include "core/BancoApostas.h"
+#include "base/Semantica.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,7 +18,7 @@ int garantiaDoQuadro(const QString& texto) {
     return std::isfinite(v) && v >= 0 && v <= 100 ? int(v) : 0;
 }
 
-std::vector<int> numerosMarcados(const Programa& p) {
+std::vector<int> numerosMarcados(const Nucleo& p) {
     std::vector<int> r;
     for (int i = 0; i < TelaPrincipal::QuantCelulas; ++i) {
         const Celula& c = p.tela.Num(i);

@@ -4,8 +4,9 @@
 // Garantia.h; the listing goes to a rich-text view that "Imprimir" prints.
 #pragma once
 
-#include "../core/Estado.h"
-#include "Garantia.h"
+#include "core/LogicaDialogo.h"
+#include "core/Estado.h"
+#include "relatorios/Garantia.h"
 
 namespace sorvelo {
 
@@ -22,27 +23,23 @@ struct TelaVerificaGarantia {
 int garantiaDoQuadro(const QString& texto);
 
 // The numbers marked (blue) on the grid, ascending.
-std::vector<int> numerosMarcados(const Programa& p);
+std::vector<int> numerosMarcados(const Nucleo& p);
 
-class VerificaGarantia {
+class VerificaGarantia : public LogicaDialogo {
 public:
-    explicit VerificaGarantia(Programa& p) : p_(p) {}
-    VerificaGarantia(const VerificaGarantia&) = delete;
-    VerificaGarantia& operator=(const VerificaGarantia&) = delete;
+    explicit VerificaGarantia(Nucleo& p) : LogicaDialogo(p, Cancelar::Nenhum) {}
 
     // Reads the grid, the frame and the bank, counts, and writes the listing.
     void Carrega();
     void BtnImprimir();
-    void BtnFechar() { fechada_ = true; }
-    bool fechada() const { return fechada_; }
+    void BtnFechar() { fecha(); }
+    bool fechada() const { return !aberto(); }
     const ResultadoGarantia& resultado() const { return resultado_; }
 
     TelaVerificaGarantia tela;
 
 private:
-    Programa& p_;
     ResultadoGarantia resultado_;
-    bool fechada_ = false;
 };
 
 } // namespace sorvelo

@@ -1,10 +1,10 @@
-#include "JogoAJogo.h"
+#include "relatorios/JogoAJogo.h"
 
 #include "core/BancoApostas.h"
 
 namespace sorvelo {
 
-JogoAJogo::JogoAJogo(Programa& p) : p_(p) {
+JogoAJogo::JogoAJogo(Nucleo& p) : p_(p) {
     if (p_.e.QuantBan > 0) {
         ApostaAtual = 0;
         mostraLinha();

@@ -11,7 +11,7 @@ class JogoAJogo {
 public:
     // Form load: the first bet when the bank has any; otherwise both boxes
     // stay empty.
-    explicit JogoAJogo(Programa& p);
+    explicit JogoAJogo(Nucleo& p);
 
     // The next bet, unless the view stands on the last; then the row shown.
     void BtnDescer();
@@ -31,7 +31,7 @@ private:
     // after TxtSeq has changed.
     void mostraLinha();
 
-    Programa& p_;
+    Nucleo& p_;
 };
 
 } // namespace sorvelo

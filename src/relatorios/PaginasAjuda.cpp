@@ -1,7 +1,7 @@
 // The eight pages of the built-in help, as the page form shows them: each
 // page's title and its text, paragraph by paragraph, every paragraph with
 // the line ends that follow it.
-#include "Ajuda.h"
+#include "relatorios/Ajuda.h"
 
 namespace sorvelo {
 

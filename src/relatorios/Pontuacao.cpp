@@ -1,8 +1,8 @@
-#include "Pontuacao.h"
+#include "relatorios/Pontuacao.h"
 
 namespace sorvelo {
 
-void CarregaVetDezEsc(Programa& p) {
+void CarregaVetDezEsc(Nucleo& p) {
     auto& e = p.e;
     Int16 n = 0;
     for (int i = 0; i <= 79; ++i) {
@@ -29,15 +29,15 @@ Int16 contaAcertos(const MatrizTexto& banco, Int32 Index, const Vetor<QString>& 
     return pontos;
 }
 
-Int16 RetPontos(const Programa& p, Int32 Index) {
+Int16 RetPontos(const Nucleo& p, Int32 Index) {
     return contaAcertos(p.e.VetBan, Index, p.e.VetDezenas);
 }
 
-Int16 RetPontos2(const Programa& p, Int32 Index) {
+Int16 RetPontos2(const Nucleo& p, Int32 Index) {
     return contaAcertos(p.e.VetBan, Index, p.e.VetDezenas2);
 }
 
-QString RetApostaVetBan(const Programa& p, Int32 Index) {
+QString RetApostaVetBan(const Nucleo& p, Int32 Index) {
     QString s;
     for (int j = 0; j <= 99; ++j) {
         const QString celula = p.e.VetBan.valor(j, Index.valor());
@@ -48,7 +48,7 @@ QString RetApostaVetBan(const Programa& p, Int32 Index) {
     return s;
 }
 
-bool TestaRepVAleat(const Programa& p, Int16 ContDezenas, Int16 Num) {
+bool TestaRepVAleat(const Nucleo& p, Int16 ContDezenas, Int16 Num) {
     if (ContDezenas < 1) return false;
     for (int j = 0; j <= ContDezenas.valor() - 1; ++j)
         if (valorNumerico(p.e.VetDezenas2(j)) == double(Num.valor())) return true;

@@ -1,6 +1,6 @@
-#include "PontuacaoRapida.h"
+#include "relatorios/PontuacaoRapida.h"
 
-#include "Pontuacao.h"
+#include "relatorios/Pontuacao.h"
 
 #include <algorithm>
 #include <array>
@@ -102,7 +102,7 @@ void IndiceApostas::pontua(const SorteioRapido& sorteio, int16_t* pontos) const 
     }
 }
 
-PontuadorBanco::PontuadorBanco(const Programa& p, Sorteio qual)
+PontuadorBanco::PontuadorBanco(const Nucleo& p, Sorteio qual)
     : p_(p), qual_(qual), sorteio_(qual == Sorteio::Resultado ? p.e.VetDezenas : p.e.VetDezenas2) {}
 
 void PontuadorBanco::preparaBloco(int64_t inicio) {

@@ -6,7 +6,7 @@
 // that holds a number more than once is held in layers, one per repetition.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/Estado.h"
 
 #include <bit>
 #include <cstdint>
@@ -74,7 +74,7 @@ public:
     enum class Sorteio { Resultado, Teste }; // VetDezenas, VetDezenas2
     // Neither the bank nor the draw may change while it is in use: a block
     // of scores is computed ahead.
-    PontuadorBanco(const Programa& p, Sorteio qual);
+    PontuadorBanco(const Nucleo& p, Sorteio qual);
     Int16 pontos(Int32 Index) {
         const int64_t i = Index.valor();
         if (i >= indice_.inicio() && i < indice_.fim()) {
@@ -89,7 +89,7 @@ private:
     void preparaBloco(int64_t inicio);
     Int16 pontosDevagar(Int32 Index);
 
-    const Programa& p_;
+    const Nucleo& p_;
     Sorteio qual_;
     SorteioRapido sorteio_;
     IndiceApostas indice_;

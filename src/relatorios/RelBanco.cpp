@@ -1,6 +1,6 @@
-#include "RelBanco.h"
+#include "relatorios/RelBanco.h"
 
-#include "../core/BancoApostas.h"
+#include "core/BancoApostas.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ int colunasRel(const QString& NomeLoteria) {
     return 0;
 }
 
-Int16 RetQuantDez(const Programa& p) {
+Int16 RetQuantDez(const Nucleo& p) {
     Int16 n = 0;
     for (int j = 0; j <= 99; ++j) {
         if (p.e.VetBan.valor(j, 0) == u'#') break;
@@ -24,7 +24,7 @@ Int16 RetQuantDez(const Programa& p) {
     return n;
 }
 
-void acrescentaAposta(QString& s, const Programa& p, int64_t Linha) {
+void acrescentaAposta(QString& s, const Nucleo& p, int64_t Linha) {
     const MatrizTexto& VetBan = p.e.VetBan;
     int quant = 0;
     const uint8_t* c = VetBan.celulas(Linha, quant);
@@ -50,7 +50,7 @@ namespace {
 
 // One row of the listing: every column's number and bet, then three blanks.
 void escreveLinhaRel(QString& s, const QString* numeros, const int64_t* linhas, int colunas, int usadas,
-                     const Programa& p) {
+                     const Nucleo& p) {
     for (int c = 0; c < colunas; ++c) {
         if (c < usadas) {
             s += numeros[c];
@@ -63,7 +63,7 @@ void escreveLinhaRel(QString& s, const QString* numeros, const int64_t* linhas, 
 
 } // namespace
 
-QString textoRelatorio(const Programa& p, const QString& agora) {
+QString textoRelatorio(const Nucleo& p, const QString& agora) {
     const Estado& e = p.e;
     const int64_t quant = e.QuantBan.valor();
     const int colunas = colunasRel(e.NomeLoteria);

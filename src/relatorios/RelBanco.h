@@ -3,7 +3,8 @@
 // and a size for the whole listing; printing of the plain text.
 #pragma once
 
-#include "../core/Estado.h"
+#include "core/LogicaDialogo.h"
+#include "core/Estado.h"
 
 namespace sorvelo {
 
@@ -11,14 +12,14 @@ namespace sorvelo {
 // Quina, Lotomania and Lotofácil (0 for any other name).
 int colunasRel(const QString& NomeLoteria);
 // The columns of row 0 of VetBan up to its "#", at most 100.
-Int16 RetQuantDez(const Programa& p);
+Int16 RetQuantDez(const Nucleo& p);
 // Appends the text of row Linha of VetBan (each cell and a blank, up to the
 // "#") to `s`: the same text as RetAposta, without a string per bet.
-void acrescentaAposta(QString& s, const Programa& p, int64_t Linha);
+void acrescentaAposta(QString& s, const Nucleo& p, int64_t Linha);
 
 // The whole listing of the bank as text, built in one pass over the bets.
 // `agora` is the date and the time as the log writes them.
-QString textoRelatorio(const Programa& p, const QString& agora);
+QString textoRelatorio(const Nucleo& p, const QString& agora);
 
 struct TelaRelBanco {
     QString Caption = QStringLiteral("Listagem do banco de apostas");
@@ -40,11 +41,9 @@ struct TelaRelBanco {
 };
 
 // The window while it is loaded (modal); a new one at each opening.
-class RelBanco {
+class RelBanco : public LogicaDialogo {
 public:
-    explicit RelBanco(Programa& p) : p_(p) {}
-    RelBanco(const RelBanco&) = delete;
-    RelBanco& operator=(const RelBanco&) = delete;
+    explicit RelBanco(Nucleo& p) : LogicaDialogo(p, Cancelar::SoFecha) {}
 
     // Form load: the fonts of the screen (all but the last), the sizes 6 to
     // 24, the window over the screen (sizes in twips), Lotomania at 8 points.
@@ -59,17 +58,14 @@ public:
     void CmbTamanhoClick();
     // Prints the plain text, edits included, in the chosen font.
     void BtnImprimir();
-    void BtnCancelar() { fechada_ = true; }
 
-    bool fechada() const { return fechada_; }
+    bool fechada() const { return !aberto(); }
     bool Preenchido = false;
     Int16 QuantDezRel;
     Int16 ColunasRel;
     TelaRelBanco tela;
 
 private:
-    Programa& p_;
-    bool fechada_ = false;
 };
 
 } // namespace sorvelo

@@ -1,16 +1,16 @@
-#include "Sobre.h"
+#include "relatorios/Sobre.h"
 
 namespace sorvelo {
 
-void ClicaLink(Programa& p) {
+void ClicaLink(Nucleo& p) {
     p.s.abridor->abre(QString::fromUtf16(EnderecoProduto));
 }
 
-void ClicaEmail(Programa& p) {
+void ClicaEmail(Nucleo& p) {
     p.s.abridor->abre(QStringLiteral("mailto:") + QString::fromUtf16(EmailSuporte));
 }
 
-void MenuNovidades(Programa& p) {
+void MenuNovidades(Nucleo& p) {
     ClicaLink(p);
 }
 

@@ -13,10 +13,10 @@ inline constexpr char16_t EnderecoProduto[] = u"https://www.sorvelo.com.br";
 inline constexpr char16_t EmailSuporte[] = u"suporte@sorvelo.com.br";
 
 // LblLink: the product's web page, through the desktop; the box stays.
-void ClicaLink(Programa& p);
+void ClicaLink(Nucleo& p);
 // LblEmail: a new mail to the support address, through the desktop.
-void ClicaEmail(Programa& p);
+void ClicaEmail(Nucleo& p);
 // MenuNovidades: the product's web page, with no window of its own.
-void MenuNovidades(Programa& p);
+void MenuNovidades(Nucleo& p);
 
 } // namespace sorvelo

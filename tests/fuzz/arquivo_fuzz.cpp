@@ -2,10 +2,11 @@
 // fresh program opens through the Abrir command. Reading must end normally
 // or with the run-time failure, never with a crash, a sanitizer report, a
 // hang or unbounded memory. A state that was read is written back too.
+#include "apoio/Duplos.h"
+#include "base/Semantica.h"
 #include "core/ArquivoApostas.h"
 #include "core/Principal.h"
-#include "core/Semantica.h"
-#include "platform/Duplos.h"
+#include "programa/Programa.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,10 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dados, size_t tamanho) {
         f.write(reinterpret_cast<const char*>(dados), qint64(tamanho));
     }
     ServicosDuplos d;
-    Programa p;
-    p.s = d.servicos();
+    Programa p(d.servicos(), d.dialogos);
     CarregaPrincipal(p);
-    InstalaArquivo(p);
     d.dialogo.enfileira(entrada);
     try {
         AbrirArquivo(p);

@@ -12,8 +12,8 @@
 #include "core/Grade.h"
 #include "core/Module1.h"
 #include "core/Principal.h"
-#include "core/Semantica.h"
-#include "platform/Duplos.h"
+#include "base/Semantica.h"
+#include "apoio/Duplos.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QDir>
@@ -48,8 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dados, size_t tamanho) {
     }
     ServicosDuplos d;
     d.pasta.define(pasta.path());
-    Programa p;
-    p.s = d.servicos();
+    Programa p{d.servicos(), d.dialogos};
     CarregaPrincipal(p);
     for (int i = 0; i < quantMarcadas; ++i)
         ClicaNumero(p, Int16::de(int64_t(5 * (i + 1) - 1)));

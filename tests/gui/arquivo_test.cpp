@@ -1,9 +1,9 @@
 // Novo, Abrir, Salvar and Salvar Como on the real main window.
+#include "apoio/FormasTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,12 +18,10 @@ using namespace sorvelo;
 
 namespace {
 
-class ArquivoDeApostas : public ::testing::Test {
+class ArquivoDeApostas : public ::testing::Test, public teste::FormasTeste {
 protected:
     void SetUp() override {
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
-        janela->show();
+        abreJanela();
         caminho = pasta.filePath(QStringLiteral("jogos.Apo"));
     }
     void aciona(const char* nome) {
@@ -50,9 +48,6 @@ protected:
 
     QTemporaryDir pasta;
     QString caminho;
-    ServicosDuplos duplos;
-    Programa p;
-    std::unique_ptr<Sorvelo> janela;
 };
 
 TEST_F(ArquivoDeApostas, SalvarNovoEAbrirDevolvemOEstado) {

@@ -5,12 +5,14 @@
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "forms/Ajuda.h"
+#include "forms/Help.h"
+#include "forms/Topicos.h"
 #include "forms/Apresenta.h"
+#include "forms/Janelas.h"
 #include "forms/JogoAJogo.h"
 #include "forms/Sobre.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -28,10 +30,7 @@ using namespace sorvelo;
 namespace {
 
 struct Janelas : ::testing::Test {
-    void SetUp() override {
-        p.s = duplos.servicos();
-        CarregaPrincipal(p);
-    }
+    void SetUp() override { CarregaPrincipal(p); }
     void aposta(std::initializer_list<int> celulas) {
         for (int c : celulas)
             ClicaNumero(p, Int16(int16_t(c)));
@@ -46,7 +45,7 @@ struct Janelas : ::testing::Test {
         return janela->findChild<W*>(QString::fromUtf8(nome));
     }
     ServicosDuplos duplos;
-    Programa p;
+    Programa p{duplos.servicos(), duplos.dialogos};
 };
 
 } // namespace
@@ -128,7 +127,8 @@ TEST_F(Janelas, PaginaFechaComEscEnterOuCliqueEOutraTeclaNao) {
 TEST_F(Janelas, TopicosAbremPaginasEOTutorial) {
     duplos.pasta.define(QStringLiteral("/opt/sorvelo"));
     std::vector<int> paginas;
-    JanelaTopicos t(p, [&] { paginas.push_back(p.e.TopicoHelp.valor()); });
+    duplos.dialogos.quando(Dialogo::Help, [&] { paginas.push_back(p.e.TopicoHelp.valor()); });
+    JanelaTopicos t(p);
     t.show();
     EXPECT_EQ(t.windowTitle(), QStringLiteral("Sorvelo - Tópicos da ajuda"));
     for (int i = 0; i < 8; ++i) {
@@ -180,13 +180,15 @@ namespace {
 // A program before its main window: the start box's state.
 struct Inicio : ::testing::Test {
     ServicosDuplos duplos;
-    Programa p;
-    Inicio() { p.s = duplos.servicos(); }
+    JanelasFormas janelas;
+    Programa p{duplos.servicos(), janelas};
+    // The program's own main window, after "Entrar".
+    JanelaApresenta::FazPrincipal faz = [this] { return std::make_unique<Sorvelo>(p, janelas); };
 };
 } // namespace
 
 TEST_F(Inicio, ApresentaEntrarAbreAPrincipalEFecha) {
-    JanelaApresenta a(p);
+    JanelaApresenta a(p, faz);
     a.show();
     EXPECT_EQ(a.windowTitle(), QStringLiteral("Sorvelo"));
     for (const char* nome : {"Image1", "Image2", "Image3"})
@@ -208,7 +210,7 @@ TEST_F(Inicio, ApresentaEntrarAbreAPrincipalEFecha) {
 }
 
 TEST_F(Inicio, ApresentaFechadaPelaMolduraEncerraSemPrincipal) {
-    JanelaApresenta a(p);
+    JanelaApresenta a(p, faz);
     a.show();
     int encerrado = 0;
     QObject::connect(&a, &JanelaApresenta::encerrado, [&] { ++encerrado; });
@@ -226,15 +228,14 @@ TEST_F(Inicio, ArquivoDaLinhaDeComandoAbreDepoisDeEntrar) {
     const QString nome = pasta.filePath(QStringLiteral("jogos.Apo"));
     {
         ServicosDuplos d;
-        Programa q;
-        q.s = d.servicos();
+        Programa q{d.servicos(), d.dialogos};
         CarregaPrincipal(q);
         for (int c : {0, 1, 2, 3, 4, 5})
             ClicaNumero(q, Int16(int16_t(c)));
         InsereApostaMarcada(q);
         GravaArquivo(q, nome);
     }
-    JanelaApresenta a(p, nome);
+    JanelaApresenta a(p, faz, nome);
     a.show();
     EXPECT_EQ(p.e.QuantBan, 0);
     a.entra();
@@ -246,7 +247,7 @@ TEST_F(Inicio, ArquivoDaLinhaDeComandoAbreDepoisDeEntrar) {
 TEST_F(Inicio, ArquivoQueNaoExisteAvisaDepoisDeEntrar) {
     QTemporaryDir pasta;
     const QString nome = pasta.filePath(QStringLiteral("sumiu.Apo"));
-    JanelaApresenta a(p, nome);
+    JanelaApresenta a(p, faz, nome);
     a.show();
     a.entra();
     ASSERT_EQ(duplos.caixa.vistas().size(), 1u);

@@ -4,10 +4,12 @@
 //   captura --dialogos PASTA               also Combinações and Conferência de apostas
 //   captura --tutorial PASTA               the pictures of the tutorial: the dialogs above and
 //                                          the start box, the bet-by-bet view, the help and the topics
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "forms/Ajuda.h"
+#include "forms/Help.h"
+#include "forms/Topicos.h"
 #include "forms/Apresenta.h"
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
@@ -15,8 +17,8 @@
 #include "forms/SortComb.h"
 #include "forms/JogoAJogo.h"
 #include "forms/Sobre.h"
+#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
 
 #include <QApplication>
 #include <QDir>
@@ -48,13 +50,13 @@ void capturaTutorial(Programa& p, const QDir& pasta) {
         w.grab().save(pasta.filePath(QString::fromLatin1(nome)));
         w.close();
     };
-    JanelaApresenta apresenta(p);
+    JanelaApresenta apresenta(p, [] { return std::unique_ptr<QWidget>(); });
     salva(apresenta, "apresenta.png");
     auto* jogo = new JanelaJogoAJogo(p);
     jogo->mostra();
     jogo->findChild<QPushButton*>(QStringLiteral("BtnDescer"))->click();
     salva(*jogo, "jogoajogo.png");
-    JanelaTopicos topicos(p, [] {});
+    JanelaTopicos topicos(p);
     salva(topicos, "topicos.png");
     p.e.TopicoHelp = 0;
     JanelaHelp ajuda(p);
@@ -67,9 +69,9 @@ void capturaTutorial(Programa& p, const QDir& pasta) {
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     ServicosDuplos duplos;
-    Programa p;
-    p.s = duplos.servicos();
-    Sorvelo janela(p);
+    JanelasFormas janelas;
+    Programa p(duplos.servicos(), janelas);
+    Sorvelo janela(p, janelas);
     janela.show();
     const QStringList args = QCoreApplication::arguments().mid(1);
     const bool tutorial = args.value(0) == QStringLiteral("--tutorial");

@@ -4,7 +4,7 @@
 #include "core/Grade.h"
 #include "core/Principal.h"
 #include "forms/CombSuperReduz.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QDir>
@@ -21,11 +21,10 @@ namespace {
 
 struct Preparado {
     ServicosDuplos d;
-    Programa p;
+    Programa p{d.servicos(), d.dialogos};
     QTemporaryDir pasta;
 
     explicit Preparado(const QByteArray& tabela) {
-        p.s = d.servicos();
         d.pasta.define(pasta.path());
         CarregaPrincipal(p);
         for (int n : {5, 10, 15, 20, 25, 30, 35, 40})

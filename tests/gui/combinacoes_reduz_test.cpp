@@ -2,8 +2,9 @@
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "forms/CombinacoesReduz.h"
+#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -24,8 +25,7 @@ namespace {
 class FluxoReduzida : public ::testing::Test {
 protected:
     void SetUp() override {
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
+        janela = std::make_unique<Sorvelo>(p, janelas);
         janela->show();
     }
     // Runs `acao` on each modal dialog as it comes up, in order.
@@ -54,7 +54,9 @@ protected:
     void clicaReduz() { janela->findChild<QPushButton*>(QStringLiteral("BtnReduz"))->click(); }
 
     ServicosDuplos duplos;
-    Programa p;
+
+    JanelasFormas janelas;
+    Programa p{duplos.servicos(), janelas};
     std::unique_ptr<Sorvelo> janela;
     std::vector<std::function<void(QWidget*)>> passos;
     QWidget* ultimo = nullptr;

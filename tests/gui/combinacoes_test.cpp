@@ -1,10 +1,9 @@
 // The full combination and the closing through the real dialogs.
-#include "combinacoes/Module2.h"
+#include "apoio/FormasTeste.h"
 #include "core/Grade.h"
 #include "forms/Combinacoes.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -23,39 +22,10 @@ using namespace sorvelo;
 
 namespace {
 
-class FluxoCombinacao : public ::testing::Test {
+class FluxoCombinacao : public ::testing::Test, public teste::FormasTeste {
 protected:
-    void SetUp() override {
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
-        janela->show();
-    }
-    // Runs `acao` on each modal dialog as it comes up, in order.
-    void quandoAbrir(std::vector<std::function<void(QWidget*)>> acoes) {
-        passos = std::move(acoes);
-        vigia();
-    }
-    void vigia() {
-        QTimer::singleShot(0, janela.get(), [this] {
-            QWidget* modal = QApplication::activeModalWidget();
-            if (modal && modal != ultimo && !passos.empty()) {
-                ultimo = modal;
-                auto acao = passos.front();
-                passos.erase(passos.begin());
-                vistos << modal->objectName();
-                acao(modal);
-            }
-            if (!passos.empty() || QApplication::activeModalWidget()) vigia();
-        });
-    }
-    void clica(const char* nome) { janela->findChild<QPushButton*>(QString::fromUtf8(nome))->click(); }
-
-    ServicosDuplos duplos;
-    Programa p;
-    std::unique_ptr<Sorvelo> janela;
-    std::vector<std::function<void(QWidget*)>> passos;
-    QWidget* ultimo = nullptr;
-    QStringList vistos;
+    void SetUp() override { abreJanela(); }
+    void TearDown() override { confereRoteiro(); }
 };
 
 TEST_F(FluxoCombinacao, SeteNumerosSeisAUmaVirandoSeteApostasEmOrdem) {
@@ -150,7 +120,6 @@ TEST_F(FluxoCombinacao, SegundoLoteSemLimparRecomecaEm00001) {
     quandoAbrir({[](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); },
                  [](QWidget*) {}});
     clica("BtnIniciar");
-    ultimo = nullptr;
     duplos.caixa.responde(Resposta::Nao);
     quandoAbrir({[](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); },
                  [](QWidget*) {}});

@@ -1,10 +1,10 @@
 // The window "Conferência de apostas" on the real main window, offscreen.
+#include "apoio/FormasTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "forms/ConfApostas.h"
 #include "forms/Controles.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
 #include "platform/qt/AreaRica.h"
 
 #include <QAction>
@@ -21,13 +21,9 @@ using namespace sorvelo;
 
 namespace {
 
-class Conferencia : public ::testing::Test {
+class Conferencia : public ::testing::Test, public teste::FormasTeste {
 protected:
-    void SetUp() override {
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
-        janela->show();
-    }
+    void SetUp() override { abreJanela(); }
     void clicaNumero(int i) {
         QWidget* w = janela->findChild<QWidget*>(QStringLiteral("Num(%1)").arg(i));
         QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(2, 2), w->mapToGlobal(QPointF(2, 2)),
@@ -44,9 +40,6 @@ protected:
         janela->findChild<QPushButton*>(QStringLiteral("BtnConferir"))->click();
         return janela->findChild<JanelaConfApostas*>(QStringLiteral("ConfApostas"));
     }
-    ServicosDuplos duplos;
-    Programa p;
-    std::unique_ptr<Sorvelo> janela;
 };
 
 TEST_F(Conferencia, ListaAsApostasComPontosEConclui) {

@@ -6,7 +6,7 @@
 #include "core/Principal.h"
 #include "forms/Eliminar.h"
 #include "forms/Filtrar.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/qt/RepinturaQt.h"
 
 #include <QApplication>
@@ -28,9 +28,8 @@ namespace {
 
 struct Janelas : ::testing::Test {
     ServicosDuplos d;
-    Programa p;
+    Programa p{d.servicos(), d.dialogos};
     void SetUp() override {
-        p.s = d.servicos();
         CarregaPrincipal(p);
     }
     void aposta(const QString& texto) {
@@ -118,7 +117,8 @@ TEST_F(Janelas, ContadorTerminaEmAguardeDepoisDaExecucao) {
 }
 
 TEST(RepinturaQt, RepintaNoMaximoUmaVezPorIntervaloMasSempreQuandoForcada) {
-    RepinturaQt r(1000);
+    int64_t parado = 0;
+    RepinturaQt r(1000, [&] { return parado; });
     int pinturas = 0;
     auto pinta = [&] { ++pinturas; };
     for (int i = 0; i < 100; ++i)
@@ -126,9 +126,13 @@ TEST(RepinturaQt, RepintaNoMaximoUmaVezPorIntervaloMasSempreQuandoForcada) {
     EXPECT_EQ(pinturas, 1);
     r.repinta(pinta, true);
     EXPECT_EQ(pinturas, 2);
-    RepinturaQt curta(5);
+    int64_t agora = 0;
+    RepinturaQt curta(5, [&] { return agora; });
     curta.repinta(pinta, false);
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    agora += 4;
+    curta.repinta(pinta, false);
+    EXPECT_EQ(pinturas, 3);
+    agora += 1;
     curta.repinta(pinta, false);
     EXPECT_EQ(pinturas, 4);
 }

@@ -4,7 +4,7 @@
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "forms/RelBanco.h"
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/qt/AreaRica.h"
 
 #include <QApplication>
@@ -19,10 +19,9 @@ using namespace sorvelo;
 namespace {
 struct Janela {
     ServicosDuplos d;
-    Programa p;
+    Programa p{d.servicos(), d.dialogos};
     std::unique_ptr<JanelaRelBanco> janela;
     explicit Janela(const QString& jogo = QStringLiteral("Mega-Sena")) {
-        p.s = d.servicos();
         CarregaPrincipal(p);
         TrocaLoteria(p, jogo);
         auto& e = p.e;

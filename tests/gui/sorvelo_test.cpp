@@ -1,15 +1,15 @@
 // The main window, offscreen, driven as a person would.
+#include "apoio/FormasTeste.h"
 #include "core/Estado.h"
 #include "forms/Controles.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
-#include "platform/Duplos.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
+#include <QDir>
 #include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTimerEvent>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -29,14 +30,11 @@ using namespace sorvelo;
 
 namespace {
 
-class JanelaPrincipal : public ::testing::Test {
+class JanelaPrincipal : public ::testing::Test, public teste::FormasTeste {
 protected:
     void SetUp() override {
         duplos.pasta.define(pasta.path());
-        p.s = duplos.servicos();
-        janela = std::make_unique<Sorvelo>(p);
-        janela->show();
-        QApplication::processEvents();
+        abreJanela();
     }
     void TearDown() override { defineTratadorFalha(nullptr); }
 
@@ -72,9 +70,6 @@ protected:
     QColor fundo(int i) { return controle<CelulaNumero>(QStringLiteral("Num(%1)").arg(i))->fundo(); }
 
     QTemporaryDir pasta;
-    ServicosDuplos duplos;
-    Programa p;
-    std::unique_ptr<Sorvelo> janela;
 };
 
 const QColor Azul(0, 0, 200), Vermelho(200, 0, 0), Livre(0, 64, 0);
@@ -92,7 +87,7 @@ TEST_F(JanelaPrincipal, AbreEmMegaSenaComOTituloSorVelo) {
     EXPECT_EQ(texto(QStringLiteral("TxtDezAp")), QStringLiteral("06"));
 }
 
-TEST_F(JanelaPrincipal, TodosOsControlesTemSeuNome) {
+TEST_F(JanelaPrincipal, TodosOsControlesTemSeuNomeComoObjectName) {
     const QStringList nomes{
         "BarraSup",      "TxtLoteria",     "BarraVert",       "BarraHoriz",      "PicLoteria",
         "Frame1",        "BtnSeta",        "FraBanco",        "Frame2",          "Frame5",
@@ -156,14 +151,19 @@ TEST_F(JanelaPrincipal, SetaPoeOJogoMarcadoNoBancoEContadoresAparecem) {
     EXPECT_EQ(texto(QStringLiteral("TxtValorApostas")), QStringLiteral("4,50"));
 }
 
-TEST_F(JanelaPrincipal, OsContadoresChegamPeloTimerEmAteUmSegundoEMeio) {
+TEST_F(JanelaPrincipal, OsContadoresChegamNoTerceiroTiqueDoTimer) {
     auto* t = controle<QTimer>(QStringLiteral("Timer1"));
     EXPECT_TRUE(t->isActive());
     EXPECT_EQ(t->interval(), 500);
-    QElapsedTimer relogio;
-    relogio.start();
-    while (texto(QStringLiteral("TxtValorApostas")).isEmpty() && relogio.elapsed() < 5000)
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    // Each tick is delivered as the timer's own event: no real time passes.
+    auto tique = [t] {
+        QTimerEvent e(t->timerId());
+        QApplication::sendEvent(t, &e);
+    };
+    tique();
+    tique();
+    EXPECT_TRUE(texto(QStringLiteral("TxtValorApostas")).isEmpty());
+    tique();
     EXPECT_EQ(texto(QStringLiteral("TxtQuantApostas")), QStringLiteral(" 0"));
     EXPECT_EQ(texto(QStringLiteral("TxtValorApostas")), QStringLiteral("0,00"));
 }
@@ -209,11 +209,11 @@ TEST_F(TrocaDeJogo, NaoEsvaziaEMudaDeJogo) {
 
 TEST_F(TrocaDeJogo, SimSalvaAntesDeMudar) {
     bancoAlterado();
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    const QString arquivo = QDir(pasta.path()).filePath(QStringLiteral("salvo.Apo"));
+    duplos.dialogo.enfileira(arquivo);
     duplos.caixa.responde(Resposta::Sim);
     clicaBotao(QStringLiteral("BarraSup(9)"));
-    EXPECT_EQ(salvou, 1);
+    EXPECT_TRUE(QFile::exists(arquivo));
     EXPECT_EQ(texto(QStringLiteral("TxtLoteria")), QStringLiteral("Lotomania"));
     EXPECT_TRUE(acao(QStringLiteral("MenuLotomania"))->isChecked());
     EXPECT_EQ(controle<CelulaNumero>(QStringLiteral("Num(0)"))->text(), QStringLiteral("00"));

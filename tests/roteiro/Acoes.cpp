@@ -1,4 +1,4 @@
-#include "Acoes.h"
+#include "roteiro/Acoes.h"
 
 #include "forms/Controles.h"
 

@@ -1,4 +1,4 @@
-#include "Cenario.h"
+#include "roteiro/Cenario.h"
 
 #include <QStringList>
 

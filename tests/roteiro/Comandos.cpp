@@ -6,11 +6,16 @@
 #include "core/Estado.h"
 #include "forms/Apresenta.h"
 #include "forms/Sorvelo.h"
+#include "roteiro/Acoes.h"
+#include "roteiro/Observacao.h"
+#include "roteiro/Roteiro.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QWidget>
 
@@ -39,7 +44,7 @@ const Uso usos[] = {
     {"espera", "espera MS"},
     {"estado", "estado C"},
     {"confere", "confere C \"texto\""},
-    {"fecha", "fecha"},
+    {"fecha", "fecha [FORMA]"},
 };
 
 bool numero(const Palavra& p, int& n) {
@@ -331,8 +336,25 @@ void Roteiro::cmdMostra(const LinhaCenario& l) {
         if (QWidget* w = widget(l, nome))
             anota(
                 QStringLiteral("%1: %2").arg(nome, posicaoControle(w, [this](int px) { return deTw(px); })));
+    } else if (modo == QStringLiteral("itens")) {
+        QObject* c = controle(l, nome);
+        if (!c) return;
+        QStringList itens;
+        if (auto* combo = qobject_cast<QComboBox*>(c)) {
+            for (int i = 0; i < combo->count(); ++i)
+                itens << combo->itemText(i);
+        } else if (auto* lista = qobject_cast<QListWidget*>(c)) {
+            for (int i = 0; i < lista->count(); ++i)
+                itens << lista->item(i)->text();
+        } else {
+            return erro(l.numero, QStringLiteral("%1 não é uma caixa de lista nem de combinação").arg(nome));
+        }
+        for (int i = 0; i < itens.size(); ++i)
+            anota(QStringLiteral("%1(%2) = %3").arg(nome).arg(i).arg(aspas(itens[i])));
     } else {
-        erro(l.numero, QStringLiteral("a linha se escreve: mostra C, mostra C cores ou mostra C posição"));
+        erro(l.numero,
+             QStringLiteral(
+                 "a linha se escreve: mostra C, mostra C cores, mostra C posição ou mostra C itens"));
     }
 }
 
@@ -354,12 +376,27 @@ void Roteiro::cmdConfere(const LinhaCenario& l) {
 }
 
 void Roteiro::cmdFecha(const LinhaCenario& l) {
+    if (l.palavras.size() == 2) return fechaForma(l);
     if (!confereForma(l, "p")) return;
     // Before "Entrar", the start box is the window to close.
     if (janela_)
         janela_->close();
     else if (apresenta_)
         apresenta_->close();
+}
+
+void Roteiro::fechaForma(const LinhaCenario& l) {
+    if (!confereForma(l, "pp")) return;
+    const QString& nome = l.palavras[1].texto;
+    // The form on top of that name: the close button of its window's frame.
+    QWidget* alvo = nullptr;
+    for (const QPointer<QWidget>& f : formas_)
+        if (f && f->isVisible() && f->objectName() == nome) alvo = f;
+    if (!alvo && janela_ && janela_->isVisible() && janela_->objectName() == nome) alvo = janela_.get();
+    if (!alvo && apresenta_ && apresenta_->isVisible() && apresenta_->objectName() == nome)
+        alvo = apresenta_.get();
+    if (!alvo) return erro(l.numero, QStringLiteral("a forma %1 não está aberta").arg(nome));
+    alvo->close();
 }
 
 bool Roteiro::cmdInicia(const LinhaCenario& l) {

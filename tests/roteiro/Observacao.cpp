@@ -1,8 +1,8 @@
-#include "Observacao.h"
+#include "roteiro/Observacao.h"
 
-#include "Transcricao.h"
 #include "forms/Controles.h"
 #include "platform/qt/AreaRica.h"
+#include "roteiro/Transcricao.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -2,7 +2,7 @@
 // colour and place, and the shared variables by their names.
 #pragma once
 
-#include "core/Estado.h"
+#include "programa/Programa.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "Roteiro.h"
+#include "roteiro/Roteiro.h"
 
 #include "forms/Apresenta.h"
 
@@ -6,6 +6,8 @@
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
 #include "platform/Atividade.h"
+#include "platform/qt/Vista.h"
+#include "programa/Programa.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -81,9 +83,8 @@ bool Roteiro::preparaPasta() {
 }
 
 void Roteiro::criaJanela() {
-    programa_ = std::make_unique<Programa>();
-    programa_->s = servicos_.servicos();
-    janela_ = std::make_unique<Sorvelo>(*programa_);
+    programa_ = std::make_unique<Programa>(servicos_.servicos(), janelas_);
+    janela_ = std::make_unique<Sorvelo>(*programa_, janelas_);
     connect(janela_.get(), &Sorvelo::encerrado, this, &Roteiro::aoEncerrar);
     if (op_.aoCriarJanela) op_.aoCriarJanela(*janela_);
     janela_->show();
@@ -93,11 +94,14 @@ void Roteiro::criaJanela() {
 }
 
 void Roteiro::criaApresenta() {
-    programa_ = std::make_unique<Programa>();
-    programa_->s = servicos_.servicos();
-    apresenta_ = std::make_unique<JanelaApresenta>(*programa_, arquivoInicial_);
-    connect(apresenta_.get(), &JanelaApresenta::principalAberta, this, [this](Sorvelo* j) {
-        janela_ = apresenta_->tomaPrincipal();
+    programa_ = std::make_unique<Programa>(servicos_.servicos(), janelas_);
+    auto fazPrincipal = [this]() -> std::unique_ptr<QWidget> {
+        return std::make_unique<Sorvelo>(*programa_, janelas_);
+    };
+    apresenta_ = std::make_unique<JanelaApresenta>(*programa_, fazPrincipal, arquivoInicial_);
+    connect(apresenta_.get(), &JanelaApresenta::principalAberta, this, [this](QWidget*) {
+        janela_.reset(static_cast<Sorvelo*>(apresenta_->tomaPrincipal().release()));
+        Sorvelo* j = janela_.get();
         anota(QStringLiteral("forma Sorvelo %1 não modal").arg(aspas(j->windowTitle())));
         connect(j, &Sorvelo::encerrado, this, &Roteiro::aoEncerrar);
         if (op_.aoCriarJanela) op_.aoCriarJanela(*j);
@@ -223,6 +227,8 @@ void Roteiro::cedeu() {
         if (armadas_[i].feita || armadas_[i].cedencia != cedencias_) continue;
         armadas_[i].feita = true;
         const LinhaCenario linha = armadas_[i].linha;
+        // What the program shows at this yield, as its own yield shows it.
+        atualizaVistas();
         ++profundidadeCedencia_;
         linhaAtual_ = linha.numero;
         executaLinha(linha);

@@ -3,10 +3,11 @@
 // program waits for the person, and writes the transcript.
 #pragma once
 
-#include "Cenario.h"
-#include "ServicosRoteiro.h"
-#include "TempoVirtual.h"
-#include "Transcricao.h"
+#include "forms/Janelas.h"
+#include "roteiro/Cenario.h"
+#include "roteiro/ServicosRoteiro.h"
+#include "roteiro/TempoVirtual.h"
+#include "roteiro/Transcricao.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -121,6 +122,8 @@ private:
 
     // Checks the words of a line: 'p' a plain word, 't' a quoted text.
     bool confereForma(const LinhaCenario& l, const char* forma);
+    // fecha FORMA: the form closed by its window frame's close button.
+    void fechaForma(const LinhaCenario& l);
     // A control by name ("C" or "Forma.C"); reports the error when there is none.
     QObject* controle(const LinhaCenario& l, const QString& nome);
     QWidget* widget(const LinhaCenario& l, const QString& nome);
@@ -139,6 +142,7 @@ private:
     OpcoesRoteiro op_;
     ServicosRoteiro servicos_;
     std::unique_ptr<QTemporaryDir> pastaTemporaria_;
+    JanelasFormas janelas_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Sorvelo> janela_;
     // `inicia Apresenta`: the start box comes first, and makes the main window.

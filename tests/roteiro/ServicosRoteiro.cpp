@@ -1,6 +1,7 @@
-#include "ServicosRoteiro.h"
+#include "roteiro/ServicosRoteiro.h"
 
-#include "Transcricao.h"
+#include "platform/qt/Vista.h"
+#include "roteiro/Transcricao.h"
 
 #include <QCoreApplication>
 
@@ -31,24 +32,30 @@ bool respostaDoNome(const QString& nome, Resposta& r) {
 }
 
 void CaixaConduzida::informacao(const QString& texto) {
+    atualizaVistas();
     c_.atendeCaixa(QStringLiteral("informação"), texto, {Resposta::OK}, Resposta::OK);
 }
 void CaixaConduzida::aviso(const QString& texto) {
+    atualizaVistas();
     c_.atendeCaixa(QStringLiteral("aviso"), texto, {Resposta::OK}, Resposta::OK);
 }
 void CaixaConduzida::critico(const QString& texto) {
+    atualizaVistas();
     c_.atendeCaixa(QStringLiteral("crítico"), texto, {Resposta::OK}, Resposta::OK);
 }
 Resposta CaixaConduzida::pergunta(const QString& texto, Botoes botoes, Resposta padrao) {
     QList<Resposta> b = {Resposta::Sim, Resposta::Nao};
     if (botoes == Botoes::SimNaoCancelar) b << Resposta::Cancelar;
+    atualizaVistas();
     return c_.atendeCaixa(QStringLiteral("pergunta"), texto, b, padrao);
 }
 
 QString DialogoConduzido::abrir(const QString& titulo, const QString& filtro) {
+    atualizaVistas();
     return c_.atendeDialogo(false, titulo, filtro);
 }
 QString DialogoConduzido::salvar(const QString& titulo, const QString& filtro) {
+    atualizaVistas();
     return c_.atendeDialogo(true, titulo, filtro);
 }
 

@@ -3,7 +3,7 @@
 // and the yield go through the runner; the clock is fixed, the folder set.
 #pragma once
 
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/Servicos.h"
 
 #include <QList>

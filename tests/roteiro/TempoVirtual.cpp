@@ -1,4 +1,4 @@
-#include "TempoVirtual.h"
+#include "roteiro/TempoVirtual.h"
 
 #include <QCoreApplication>
 #include <QTimerEvent>

@@ -1,4 +1,4 @@
-#include "Transcricao.h"
+#include "roteiro/Transcricao.h"
 
 namespace sorvelo::roteiro {
 

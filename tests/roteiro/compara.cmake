@@ -20,9 +20,20 @@ endif()
 execute_process(COMMAND ${ROTEIRO} ${CENARIO} WORKING_DIRECTORY ${TRABALHO}/pasta
                 OUTPUT_FILE ${transcricao} ERROR_VARIABLE erros RESULT_VARIABLE status)
 
+# Rewriting an expected transcript never passes the run that rewrote it:
+# the run fails and names the file to review.
 if(DEFINED ENV{SORVELO_ATUALIZA_CENARIOS} AND "$ENV{SORVELO_ATUALIZA_CENARIOS}" STREQUAL "1")
-  file(COPY_FILE ${transcricao} ${esperado})
-  message(STATUS "${nome}.esperado reescrito (status ${status})")
+  set(reescrever TRUE)
+  if(EXISTS ${esperado})
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${esperado} ${transcricao} RESULT_VARIABLE mudou)
+    if(NOT mudou)
+      set(reescrever FALSE)
+    endif()
+  endif()
+  if(reescrever)
+    file(COPY_FILE ${transcricao} ${esperado})
+    message(FATAL_ERROR "${esperado} reescrito (status ${status}): leia cada linha que mudou antes de aceitá-lo")
+  endif()
 endif()
 
 if(NOT EXISTS ${esperado})

@@ -1,7 +1,7 @@
 // sorvelo-roteiro: runs a scenario file against the real program, headless,
 // and writes the transcript of what the program showed.
-#include "Roteiro.h"
 #include "platform/qt/ServicosQt.h"
+#include "roteiro/Roteiro.h"
 
 #include <QApplication>
 #include <QFile>
@@ -50,9 +50,12 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
   mostra C cores               os trechos de cor e peso de uma área de texto rico; de uma
                                célula da grade, as cores de fundo e de texto
   mostra C posição             Left, Top, Width, Height de C em twips (à precisão do pixel)
+  mostra C itens               cada item de uma caixa de lista ou combinação, um por linha,
+                               em ordem: C(0) = "…"
   estado C                     visível/oculto, habilitado/desabilitado, marcado/desmarcado
   confere C "texto"            compara o texto de C (controle, variável ou elemento)
   fecha                        fecha a janela principal, com o seu fluxo de fechamento
+  fecha FORMA                  fecha a forma aberta pelo botão de fechar da moldura da janela
   na_cedencia N LINHA          logo depois da linha que age: executa LINHA dentro da N-ésima
                                cedência ao laço de mensagens contada desde que ela agiu
   C pode ser Forma.C, um controle de uma forma aberta; sem forma, a do topo ou a principal.

@@ -2,10 +2,10 @@
 // handler that yields, a line run inside the N-th yield, forms shown modal
 // and not modal, the wait limit. The controls and forms here are the
 // test's own, added to the real main window.
-#include "Roteiro.h"
 #include "core/BancoApostas.h"
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
+#include "roteiro/Roteiro.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -4,13 +4,12 @@
 
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <QStringList>
 
 namespace sorvelo::teste {
 
-inline const QString Agora = QStringLiteral("22/11/2026 14:05:09");
 
 struct BancoTeste : ProgramaTeste {
     explicit BancoTeste(const QString& jogo = QStringLiteral("Mega-Sena")) {

@@ -5,7 +5,7 @@
 // goes through the program's reading path.
 #pragma once
 
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 #include "combinacoes/SuperReducao.h"
 #include "relatorios/Pontuacao.h"
 
@@ -63,10 +63,10 @@ inline QByteArray linhaDePosicoes(int quant, int ciclo = 8) {
 
 // A program as the main window's load leaves it, with its folder in a
 // temporary directory, and the flow's hand-over to the dialog.
-struct BancadaSuper : Bancada {
+struct BancadaSuper : ProgramaTeste {
     QTemporaryDir pasta;
 
-    explicit BancadaSuper(const QString& jogo = QStringLiteral("Mega-Sena")) : Bancada(jogo) {
+    explicit BancadaSuper(const QString& jogo = QStringLiteral("Mega-Sena")) : ProgramaTeste(jogo) {
         d.pasta.define(pasta.path());
     }
 
@@ -97,7 +97,7 @@ struct BancadaSuper : Bancada {
         p.e.DezFinal = Int16::de(int64_t(dezFinal));
         p.e.QuantAcertar = Int16::de(int64_t(acertar));
         SuperReducao dlg(p);
-        dlg.aoFechar = [this] { ++fechamentos; };
+        Ligacao vigiaFecho(dlg.aoFechar, [this] { ++fechamentos; });
         dlg.aoContar = [this](const QString& t) { contagens << t; };
         if (dialogo) *dialogo = &dlg;
         dlg.ativa();

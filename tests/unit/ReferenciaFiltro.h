@@ -3,8 +3,8 @@
 // tests compare the program's filter with it; the benchmark times it.
 #pragma once
 
-#include "core/MatrizTexto.h"
-#include "core/Semantica.h"
+#include "base/MatrizTexto.h"
+#include "base/Semantica.h"
 
 #include <QString>
 #include <QStringList>

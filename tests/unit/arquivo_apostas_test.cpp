@@ -1,10 +1,10 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "core/Rtf.h"
-#include "platform/Duplos.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,14 +28,7 @@ const QString Filtro = u("Arquivo de apostas (*.Apo)|*.Apo;");
 const QString Sobrescrever = u("Este nome de arquivo já existe! Deseja sobrescrever?");
 
 // A program as the main window's load leaves it, with scripted services.
-struct Sessao {
-    ServicosDuplos d;
-    Programa p;
-    Sessao() {
-        p.s = d.servicos();
-        CarregaPrincipal(p);
-        InstalaArquivo(p);
-    }
+struct Sessao : teste::ProgramaTeste {
     void abre(const QString& caminho) {
         d.dialogo.enfileira(caminho);
         AbrirArquivo(p);
@@ -137,14 +130,7 @@ std::vector<TrechoSimples> trechos(const DocumentoRico& d) {
     return r;
 }
 
-int falhaDe(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const FalhaExecucao& falha) {
-        return falha.numero();
-    }
-    return 0;
-}
+using teste::falhaDe;
 
 // A whole working state of one game: a batch with a head, bets of different
 // lengths, a prize sentence, marks and entry fields set by hand.
@@ -808,11 +794,8 @@ TEST_F(ArquivoApostas, NovoComSimPedeNomeParaSalvar) {
     EXPECT_TRUE(p.tela.TxtBanco.texto().isEmpty());
 }
 
-TEST_F(ArquivoApostas, InstalaArquivoDaEfeitoAPerguntaDoBanco) {
+TEST_F(ArquivoApostas, SimNaPerguntaDoBancoSalvaOArquivo) {
     Sessao b;
-    b.p.salvarArquivo = nullptr;
-    InstalaArquivo(b.p);
-    ASSERT_TRUE(bool(b.p.salvarArquivo));
     montaCenario(b.p, cenarios()[0]);
     b.d.caixa.responde(Resposta::Sim);
     b.d.dialogo.enfileira(caminho(u("inst.Apo")));

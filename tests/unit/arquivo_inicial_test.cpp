@@ -3,9 +3,9 @@
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,7 +19,7 @@ using namespace sorvelo::teste;
 namespace {
 
 struct Sessao : ProgramaTeste {
-    Sessao() { InstalaArquivo(p); }
+    Sessao() = default;
     // What a person sees and what the bank holds.
     QStringList estado() const {
         return {p.tela.Caption,

@@ -1,9 +1,9 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "programa_teste.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -274,11 +274,10 @@ TEST_F(Banco, CancelarAoEsvaziarMantemTudo) {
     p.tela.TxtQuantApostas.Text = QStringLiteral(" 1");
     p.tela.TxtValorApostas.Text = QStringLiteral("4,50");
     const QString texto = p.tela.TxtBanco.texto();
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Cancelar);
     EXPECT_FALSE(LimpaBancoApostas(p));
-    EXPECT_EQ(salvou, 0);
+    EXPECT_EQ(salvamento.vezes(), 0);
     EXPECT_EQ(p.tela.TxtBanco.texto(), texto);
     EXPECT_EQ(p.e.QuantBan, 1);
     EXPECT_EQ(RetAposta(p, 0), QStringLiteral("01 02 03 04 05 06 "));
@@ -293,16 +292,11 @@ TEST_F(Banco, CancelarAoEsvaziarMantemTudo) {
 
 TEST_F(Banco, SimAoEsvaziarSalvaESegue) {
     bancoComUmaAposta();
-    int salvou = 0;
-    int quantNoSalvar = -1;
-    p.salvarArquivo = [&](Programa& q) {
-        ++salvou;
-        quantNoSalvar = q.e.QuantBan.valor();
-    };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Sim);
     EXPECT_TRUE(LimpaBancoApostas(p));
-    EXPECT_EQ(salvou, 1);
-    EXPECT_EQ(quantNoSalvar, 1); // saved before emptying
+    EXPECT_EQ(salvamento.vezes(), 1);
+    EXPECT_EQ(salvamento.apostasNoArquivo(), 1); // saved before emptying
     EXPECT_EQ(p.e.QuantBan, 0);
     EXPECT_TRUE(p.tela.TxtBanco.texto().isEmpty());
 }
@@ -316,11 +310,10 @@ TEST_F(Banco, SimAoEsvaziarSegueMesmoQueOSalvarNaoMudeNada) {
 
 TEST_F(Banco, NaoAoEsvaziarNaoSalva) {
     bancoComUmaAposta();
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Nao);
     EXPECT_TRUE(LimpaBancoApostas(p));
-    EXPECT_EQ(salvou, 0);
+    EXPECT_EQ(salvamento.vezes(), 0);
     EXPECT_EQ(p.e.QuantBan, 0);
 }
 

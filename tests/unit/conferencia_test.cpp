@@ -1,4 +1,4 @@
-#include "apoio_conferencia.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Pontuacao.h"
 
@@ -7,20 +7,32 @@
 #include <memory>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 
 namespace {
 
 const QString Cabecalho = QStringLiteral("Conferência de apostas da MEGA-SENA\r\nBanco de apostas: \r\n\r\n");
 
-struct Conferencia : Ambiente {
+struct Conferencia : ProgramaTeste {
     std::unique_ptr<ConfApostas> forma;
-    explicit Conferencia(const QString& jogo = QStringLiteral("Mega-Sena")) : Ambiente(jogo) {}
-    // The press, and for a window loaded anew its showing, which is its
-    // first activation (the form runs it once the window stands).
-    void conferir() {
-        if (BtnConferir(p, forma) && !forma->Ativa()) forma.reset();
+    // The window as its holder keeps it, without widgets: loaded anew when
+    // it isn't open, and its showing is its first activation (the form runs
+    // it once the window stands); brought back when it is.
+    explicit Conferencia(const QString& jogo = QStringLiteral("Mega-Sena")) : ProgramaTeste(jogo) {
+        d.dialogos.quando(Dialogo::ConfApostas, [this] {
+            if (forma && forma->aberto()) {
+                if (!MostraConfApostasAberta(*forma)) forma.reset();
+                return;
+            }
+            forma = std::make_unique<ConfApostas>(p);
+            forma->Carrega();
+            ++novas;
+            if (ativaAoMostrar && !forma->Ativa()) forma.reset();
+        });
     }
+    int novas = 0;              // windows loaded anew
+    bool ativaAoMostrar = true; // false: the test activates the new window itself
+    void conferir() { BtnConferir(p); }
     QString iniciar() {
         forma->BtnIniciar();
         return forma->tela.RTFConf.texto();
@@ -48,7 +60,7 @@ TEST(ConfApostas, BancoVazioComResultadoMarcado) {
     EXPECT_EQ(trechos[0].fim, Cabecalho.size());
     EXPECT_EQ(trechos[1].formato, (Formato{rgb(0, 150, 0), true}));
     EXPECT_EQ(trechos[2].formato, (Formato{rgb(0, 150, 0), false}));
-    EXPECT_EQ(c.forma->tela.LblMensagem, QStringLiteral("Concluído."));
+    EXPECT_EQ(c.forma->LblMensagem, QStringLiteral("Concluído."));
     EXPECT_TRUE(c.forma->tela.RTFConf.visivel());
     ASSERT_EQ(c.d.caixa.vistas().size(), 1u);
     EXPECT_EQ(c.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Informacao);
@@ -87,7 +99,9 @@ TEST(ConfApostas, NadaMarcadoAvisaEFechaSemLembreteForaDaDuplaSena) {
 
 TEST(ConfApostas, JanelaNovaSoAvisaDoResultadoVazioQuandoAparece) {
     Conferencia c(QStringLiteral("Dupla Sena"));
-    EXPECT_TRUE(BtnConferir(c.p, c.forma)) << "loaded anew: the caller shows it";
+    c.ativaAoMostrar = false;
+    c.conferir();
+    EXPECT_EQ(c.novas, 1) << "loaded anew: the window shows it";
     ASSERT_TRUE(c.forma);
     EXPECT_EQ(c.caixas(), QStringList{"Lembrete: não se esqueça de conferir o segundo sorteio!"});
     EXPECT_FALSE(c.forma->fechada());
@@ -103,10 +117,12 @@ TEST(ConfApostas, JanelaAbertaVoltaSemNovaCargaETestaOResultadoNaHora) {
     c.conferir();
     ConfApostas* janela = c.forma.get();
     c.marca({2});
-    EXPECT_FALSE(BtnConferir(c.p, c.forma));
+    c.conferir();
+    EXPECT_EQ(c.novas, 1);
     EXPECT_EQ(c.forma.get(), janela);
     LimpaNumeros(c.p);
-    EXPECT_FALSE(BtnConferir(c.p, c.forma));
+    c.conferir();
+    EXPECT_EQ(c.novas, 1);
     EXPECT_FALSE(c.forma);
     EXPECT_EQ(c.caixas(), QStringList{"Informe o resultado na seção \"Escolha de números\""});
 }
@@ -116,7 +132,7 @@ TEST(ConfApostas, AJanelaSabeDaMensagemDeEsperaAntesDaCedencia) {
     c.marca({1});
     c.conferir();
     QStringList eventos;
-    c.forma->aoMudarMensagem = [&] { eventos << QStringLiteral("mensagem ") + c.forma->tela.LblMensagem; };
+    c.forma->aoMudarMensagem.liga([&] { eventos << QStringLiteral("mensagem ") + c.forma->LblMensagem; });
     c.d.cedencia.aoCeder = [&](long long) { eventos << QStringLiteral("cede"); };
     c.iniciar();
     EXPECT_EQ(eventos, (QStringList{"mensagem Aguarde, conferindo apostas...", "cede"}));
@@ -298,7 +314,7 @@ TEST(ConfApostas, LimiarLidoComoValorNumericoDoTexto) {
         for (const QString& l : c.linhas())
             if (l.size() > 5 && l[5] == u')') listadas << l.left(5);
         EXPECT_EQ(listadas, caso.listadas) << caso.texto;
-        EXPECT_EQ(c.forma->tela.LblMensagem, QStringLiteral("Concluído.")) << caso.texto;
+        EXPECT_EQ(c.forma->LblMensagem, QStringLiteral("Concluído.")) << caso.texto;
     }
 }
 
@@ -309,7 +325,7 @@ TEST(ConfApostas, LimiarAcimaDeTodosOsPontosNaoListaNada) {
     c.aposta({1, 2, 3, 4, 5, 6});
     c.forma->tela.TxtPontos.Text = QStringLiteral("7");
     EXPECT_EQ(c.iniciar(), Cabecalho + QStringLiteral("Resultado: 01 02 03 04 05 06 \r\n\r\n\r\n"));
-    EXPECT_EQ(c.forma->tela.LblMensagem, QStringLiteral("Concluído."));
+    EXPECT_EQ(c.forma->LblMensagem, QStringLiteral("Concluído."));
     EXPECT_EQ(c.caixas().last(), QStringLiteral("Conferência concluída!"));
 }
 
@@ -403,12 +419,12 @@ TEST(ConfApostas, UmaCedenciaComAMensagemDeEsperaEListagemEscondidaDuranteAExecu
     for (int i = 0; i < 40; ++i)
         c.aposta({1, 2, 3, 4, 5, 6});
     QStringList mensagens;
-    c.d.cedencia.aoCeder = [&](long long) { mensagens << c.forma->tela.LblMensagem; };
+    c.d.cedencia.aoCeder = [&](long long) { mensagens << c.forma->LblMensagem; };
     int escritasVisiveis = 0, escritas = 0;
-    c.forma->tela.RTFConf.aoMudar = [&] {
+    c.forma->tela.RTFConf.aoMudar.liga([&] {
         ++escritas;
         if (c.forma->tela.RTFConf.visivel()) ++escritasVisiveis;
-    };
+    });
     c.iniciar();
     EXPECT_EQ(mensagens, QStringList{"Aguarde, conferindo apostas..."});
     EXPECT_EQ(c.d.cedencia.quantas, 1);
@@ -467,7 +483,7 @@ TEST(ConfApostas, LinhaSemFimInterrompeComFalha9) {
     } catch (const FalhaExecucao& f) {
         EXPECT_EQ(f.numero(), erro::SubscritoForaIntervalo);
     }
-    EXPECT_NE(c.forma->tela.LblMensagem, QStringLiteral("Concluído."));
+    EXPECT_NE(c.forma->LblMensagem, QStringLiteral("Concluído."));
 }
 
 TEST(ConfApostas, ImprimeUmaLinhaEmBrancoEOTextoDaListagem) {

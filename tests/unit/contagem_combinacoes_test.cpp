@@ -1,5 +1,5 @@
 // The count and the cost of a combination.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -74,24 +74,26 @@ TEST(CustoCombinacao, ValoresGrandesNaFormaBrasileira) {
 }
 
 TEST(CustoCombinacao, DialogoMostraContagemECusto) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     b.dezenasPorAposta(6);
     Roteiro r;
     r.iniciar = false;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(b.p.e.TotalApostas, 210);
     EXPECT_EQ(r.lblTotAp, QStringLiteral(" 210"));
     EXPECT_EQ(r.lblValAp, QStringLiteral("945,00"));
 }
 
 TEST(CustoCombinacao, PrecoLidoDoTextoNoInicio) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     b.p.tela.TxtValAp.Text = QStringLiteral("1.000,50");
     Roteiro r;
     r.iniciar = false;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(b.p.e.ValorAposta, 1000.5);
     EXPECT_EQ(r.lblValAp, QStringLiteral("7.003,50"));
 }

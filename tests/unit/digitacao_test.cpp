@@ -2,8 +2,8 @@
 #include "core/Loteria.h"
 #include "edicao/Digitacao.h"
 #include "edicao/SortearFormato.h"
-#include "imprime_qt.h"
-#include "programa_teste.h"
+#include "apoio/ImprimeQt.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "platform/DocumentoRico.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -194,7 +194,7 @@ TEST(DocumentoRico, AcrescentaOutroDocumentoDeMesmoFormatoJunta) {
 TEST(DocumentoRico, EventoDeMudancaEmCadaEscrita) {
     DocumentoRico d;
     int mudancas = 0;
-    d.aoMudar = [&] { ++mudancas; };
+    d.aoMudar.liga([&] { ++mudancas; });
     d.acrescenta(QStringLiteral("a"), fAzul);
     EXPECT_EQ(mudancas, 1);
     d.defineTexto(QStringLiteral("b"));
@@ -213,7 +213,7 @@ TEST(DocumentoRico, EventoDeMudancaEmCadaEscrita) {
 TEST(DocumentoRico, VisibilidadeNaoEhMudancaDoConteudo) {
     DocumentoRico d;
     int mudancas = 0;
-    d.aoMudar = [&] { ++mudancas; };
+    d.aoMudar.liga([&] { ++mudancas; });
     const uint64_t v0 = d.versao();
     d.defineVisivel(false);
     EXPECT_FALSE(d.visivel());

@@ -1,6 +1,6 @@
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

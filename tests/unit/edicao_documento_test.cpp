@@ -3,7 +3,7 @@
 // from scratch.
 #include "platform/DocumentoRico.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

@@ -206,7 +206,7 @@ TEST_F(Eliminacao, ContadorACada13ApostasComCedencia) {
     QStringList contagens;
     d.aoContar = [&] { contagens << d.LblCont; };
     bool fechou = false;
-    d.aoFechar = [&] { fechou = true; };
+    Ligacao vigiaFecho(d.aoFechar, [&] { fechou = true; });
     d.TxtQuant.Text = QStringLiteral("1");
     d.BtnIniciar();
     // Two in the strikes, two in the rewrite.
@@ -220,7 +220,7 @@ TEST_F(Eliminacao, SegundoCliqueNaCedenciaRodaTudoDeNovoSemQuebrar) {
         b.aposta(QStringLiteral("01 02 03 04 05 06"));
     Eliminar d(b.p);
     int fechamentos = 0;
-    d.aoFechar = [&] { ++fechamentos; };
+    Ligacao vigiaFecho(d.aoFechar, [&] { ++fechamentos; });
     d.TxtQuant.Text = QStringLiteral("1");
     bool clicou = false;
     b.d.cedencia.aoCeder = [&](long long) {
@@ -288,7 +288,8 @@ TEST_F(Eliminacao, IgualAoRitoSimplesEmBancosAleatoriosComCelulasAntigas) {
 TEST_F(Eliminacao, BotaoDoPrincipalMostraODialogoSemTestarOBanco) {
     int vezes = 0;
     const QString historico = b.p.e.Historico;
-    BtnEliminar(b.p, [&](Programa&) { ++vezes; });
+    b.d.dialogos.quando(Dialogo::Eliminar, [&] { ++vezes; });
+    BtnEliminar(b.p);
     EXPECT_EQ(vezes, 1);
     EXPECT_EQ(b.p.e.Historico, historico); // the line comes with "Iniciar"
 }

@@ -1,13 +1,13 @@
-#include "apoio_conferencia.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/EntraTexto.h"
 
 #include <gtest/gtest.h>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 
 namespace {
-struct Prompt : Ambiente {
+struct Prompt : ProgramaTeste {
     Prompt() {
         p.e.TextoPrompt = QStringLiteral("Informe a quantidade de conferências a efetuar:");
         p.e.TextoDigitado = QStringLiteral("100");
@@ -17,7 +17,7 @@ struct Prompt : Ambiente {
 
 TEST(EntraTexto, MostraAPerguntaEOValorProposto) {
     Prompt a;
-    EntraTexto f(a.p.e);
+    EntraTexto f(a.p);
     EXPECT_EQ(f.tela.Caption, QStringLiteral("Sorvelo"));
     EXPECT_EQ(f.tela.LblMensagem, QStringLiteral("Informe o texto:"));
     EXPECT_EQ(f.tela.BtnOK, QStringLiteral("OK"));
@@ -29,7 +29,7 @@ TEST(EntraTexto, MostraAPerguntaEOValorProposto) {
 
 TEST(EntraTexto, OkDevolveOTextoDigitado) {
     Prompt a;
-    EntraTexto f(a.p.e);
+    EntraTexto f(a.p);
     f.Carrega();
     f.tela.TxtTexto.Text = QStringLiteral("2,6");
     f.BtnOK();
@@ -40,13 +40,13 @@ TEST(EntraTexto, OkDevolveOTextoDigitado) {
 
 TEST(EntraTexto, CancelarDigitadoComOkEIgualAoBotaoCancelar) {
     Prompt digitado;
-    EntraTexto f1(digitado.p.e);
+    EntraTexto f1(digitado.p);
     f1.Carrega();
     f1.tela.TxtTexto.Text = QStringLiteral("CANCELAR");
     f1.BtnOK();
 
     Prompt botao;
-    EntraTexto f2(botao.p.e);
+    EntraTexto f2(botao.p);
     f2.Carrega();
     f2.tela.TxtTexto.Text = QStringLiteral("7");
     f2.BtnCancelar();
@@ -65,7 +65,7 @@ TEST(EntraTexto, CancelarEmMinusculasEUmTextoComoOutro) {
 TEST(EntraTexto, FecharDeOutroModoDeixaOValorProposto) {
     Prompt a;
     {
-        EntraTexto f(a.p.e);
+        EntraTexto f(a.p);
         f.Carrega();
         f.tela.TxtTexto.Text = QStringLiteral("55");
         // Closed by the window's frame: neither button ran.

@@ -1,6 +1,6 @@
 // The prize statistics of a full combination and the sentence that tells
 // them.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -17,21 +17,21 @@ int64_t comb(int n, int k) {
 }
 
 // Generates numbers 1..n taken k, then counts the prizes of the game.
-void geraEConta(Bancada& b, int n, int k) {
+void geraEConta(ProgramaTeste& b, int n, int k) {
     b.marcaFaixa(1, n);
     CarregaNumeros(b.p);
     b.p.e.QuantEscolhidos = Int16(int16_t(n));
     b.p.e.DezAposta = Int16(int16_t(k));
     b.p.e.TotalApostas = ArredondaApostas(RetQuantCombinacoes(n, k));
-    IniciaProgresso(b.p, b.p.e.TotalApostas);
-    ASSERT_TRUE(CombinaVetor(b.p, b.p.e.QuantEscolhidos, b.p.e.DezAposta, b.p.e.TotalApostas));
-    IniciaProgresso(b.p, b.p.e.TotalApostas * 6);
-    FazEstatistica(b.p, b.p.e.NomeLoteria, b.p.e.TotalApostas);
+    IniciaProgresso(b.p, module2(b.p), b.p.e.TotalApostas);
+    ASSERT_TRUE(CombinaVetor(b.p, module2(b.p), b.p.e.QuantEscolhidos, b.p.e.DezAposta, b.p.e.TotalApostas));
+    IniciaProgresso(b.p, module2(b.p), b.p.e.TotalApostas * 6);
+    FazEstatistica(b.p, module2(b.p), b.p.e.NomeLoteria, b.p.e.TotalApostas);
 }
 } // namespace
 
 TEST(FazEstatistica, MegaSenaSeteASeis) {
-    Bancada b;
+    ProgramaTeste b;
     geraEConta(b, 7, 6);
     const Module2& m = module2(b.p);
     EXPECT_EQ(m.QuantQuadras(0), 3);
@@ -40,15 +40,15 @@ TEST(FazEstatistica, MegaSenaSeteASeis) {
     EXPECT_EQ(m.QuantSenas, 1);
     EXPECT_EQ(m.QuantQuinas(1), 6);
     EXPECT_EQ(m.QuantQuadras(2), 0);
-    EXPECT_EQ(RetornaEstatistica(b.p),
+    EXPECT_EQ(RetornaEstatistica(b.p, module2(b.p)),
               QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
                              "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
                              "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
-    EXPECT_EQ(b.p.e.TextoEstatistica, RetornaEstatistica(b.p));
+    EXPECT_EQ(b.p.e.TextoEstatistica, RetornaEstatistica(b.p, module2(b.p)));
 }
 
 TEST(FazEstatistica, MegaSenaOitoASeisContaCadaLinhaNoMaiorPremio) {
-    Bancada b;
+    ProgramaTeste b;
     geraEConta(b, 8, 6);
     const Module2& m = module2(b.p);
     // A draw holding the first 4, 5 or 6 chosen numbers; the others (8 - c)
@@ -62,16 +62,16 @@ TEST(FazEstatistica, MegaSenaOitoASeisContaCadaLinhaNoMaiorPremio) {
 }
 
 TEST(FazEstatistica, DuplaSenaComoAMega) {
-    Bancada b(QStringLiteral("Dupla Sena"));
+    ProgramaTeste b(QStringLiteral("Dupla Sena"));
     geraEConta(b, 7, 6);
-    EXPECT_EQ(RetornaEstatistica(b.p),
+    EXPECT_EQ(RetornaEstatistica(b.p, module2(b.p)),
               QStringLiteral("Acertando 4 dezenas pega 3 quadras.\r\n"
                              "Acertando 5 dezenas pega 2 quina(s), 5 quadras.\r\n"
                              "Acertando 6 dezenas pega 1 sena, 6 quina(s) e 0 quadras."));
 }
 
 TEST(FazEstatistica, QuinaTemTresLinhasComTernos) {
-    Bancada b(QStringLiteral("Quina"));
+    ProgramaTeste b(QStringLiteral("Quina"));
     geraEConta(b, 7, 5);
     const Module2& m = module2(b.p);
     EXPECT_EQ(m.QuantTernos(0), comb(4, 2));
@@ -80,7 +80,7 @@ TEST(FazEstatistica, QuinaTemTresLinhasComTernos) {
     EXPECT_EQ(m.QuantQuinas(0), 1);
     EXPECT_EQ(m.QuantQuadras(1), comb(5, 4) * comb(2, 1));
     EXPECT_EQ(m.QuantTernos(2), comb(5, 3) * comb(2, 2));
-    EXPECT_EQ(RetornaEstatistica(b.p),
+    EXPECT_EQ(RetornaEstatistica(b.p, module2(b.p)),
               QStringLiteral("Acertando 3 dezenas pega 6 ternos.\r\n"
                              "Acertando 4 dezenas pega 3 quadras e 12 ternos.\r\n"
                              "Acertando 5 dezenas pega 1 quina(s), 10 quadras e 10 ternos."
@@ -88,7 +88,7 @@ TEST(FazEstatistica, QuinaTemTresLinhasComTernos) {
 }
 
 TEST(FazEstatistica, SeisPassesSobreAsLinhas) {
-    Bancada b;
+    ProgramaTeste b;
     geraEConta(b, 8, 6);
     // 28 rows generated, then six passes of 28 rows, one yield a row.
     EXPECT_EQ(b.d.cedencia.quantas, 28 + 6 * 28);
@@ -96,40 +96,40 @@ TEST(FazEstatistica, SeisPassesSobreAsLinhas) {
 }
 
 TEST(FazEstatistica, NomeEmQualquerCaixa) {
-    Bancada b;
+    ProgramaTeste b;
     geraEConta(b, 7, 6);
     Module2& m = module2(b.p);
     m.QuantQuadras(0) = 99;
-    FazEstatistica(b.p, QStringLiteral("mega-sena"), b.p.e.TotalApostas);
+    FazEstatistica(b.p, module2(b.p), QStringLiteral("mega-sena"), b.p.e.TotalApostas);
     EXPECT_EQ(m.QuantQuadras(0), 3);
 }
 
 TEST(FazEstatistica, OutrosJogosNaoFazemPasseNemMudamContadores) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.marcaFaixa(1, 16);
     CarregaNumeros(b.p);
     b.p.e.DezAposta = 15;
-    IniciaProgresso(b.p, 16);
-    ASSERT_TRUE(CombinaVetor(b.p, 16, 15, 16));
+    IniciaProgresso(b.p, module2(b.p), 16);
+    ASSERT_TRUE(CombinaVetor(b.p, module2(b.p), 16, 15, 16));
     Module2& m = module2(b.p);
     m.QuantQuadras(0) = 7;
     const long long antes = b.d.cedencia.quantas;
-    FazEstatistica(b.p, b.p.e.NomeLoteria, 16);
+    FazEstatistica(b.p, module2(b.p), b.p.e.NomeLoteria, 16);
     EXPECT_EQ(b.d.cedencia.quantas, antes);
     EXPECT_EQ(m.QuantQuadras(0), 7);
 }
 
 TEST(RetornaEstatistica, VaziaParaLotofacilELotomania) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.p.e.TextoEstatistica = QStringLiteral("velha");
-    EXPECT_EQ(RetornaEstatistica(b.p), QString());
+    EXPECT_EQ(RetornaEstatistica(b.p, module2(b.p)), QString());
     EXPECT_EQ(b.p.e.TextoEstatistica, QString());
-    Bancada l(QStringLiteral("Lotomania"));
-    EXPECT_EQ(RetornaEstatistica(l.p), QString());
+    ProgramaTeste l(QStringLiteral("Lotomania"));
+    EXPECT_EQ(RetornaEstatistica(l.p, module2(l.p)), QString());
 }
 
 TEST(RetornaEstatistica, PalavrasSemSingular) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     m.QuantQuadras(0) = 1;
     m.QuantQuinas(0) = 1;
@@ -137,24 +137,24 @@ TEST(RetornaEstatistica, PalavrasSemSingular) {
     m.QuantSenas = 1;
     m.QuantQuinas(1) = 0;
     m.QuantQuadras(2) = 1;
-    EXPECT_EQ(RetornaEstatistica(b.p),
+    EXPECT_EQ(RetornaEstatistica(b.p, module2(b.p)),
               QStringLiteral("Acertando 4 dezenas pega 1 quadras.\r\n"
                              "Acertando 5 dezenas pega 1 quina(s), 1 quadras.\r\n"
                              "Acertando 6 dezenas pega 1 sena, 0 quina(s) e 1 quadras."));
 }
 
 TEST(FazEstatistica, VetResFicaComoEstava) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 8);
     CarregaNumeros(b.p);
     b.p.e.DezAposta = 6;
-    IniciaProgresso(b.p, 28);
-    ASSERT_TRUE(CombinaVetor(b.p, 8, 6, 28));
+    IniciaProgresso(b.p, module2(b.p), 28);
+    ASSERT_TRUE(CombinaVetor(b.p, module2(b.p), 8, 6, 28));
     QStringList antes;
     for (int r = 0; r <= 28; ++r)
         for (int c = 0; c <= 81; ++c)
             antes << b.p.e.VetRes.valor(c, r);
-    FazEstatistica(b.p, b.p.e.NomeLoteria, 28);
+    FazEstatistica(b.p, module2(b.p), b.p.e.NomeLoteria, 28);
     QStringList depois;
     for (int r = 0; r <= 28; ++r)
         for (int c = 0; c <= 81; ++c)
@@ -164,28 +164,28 @@ TEST(FazEstatistica, VetResFicaComoEstava) {
 }
 
 TEST(JogoTemDezenas, MenosDeUmNumeroDaFalso) {
-    Bancada b;
+    ProgramaTeste b;
     geraEConta(b, 7, 6);
-    LimpaContados(b.p);
-    EXPECT_FALSE(JogoTemDezenas(b.p, 0, 0));
+    LimpaContados(b.p, module2(b.p));
+    EXPECT_FALSE(JogoTemDezenas(b.p, module2(b.p), 0, 0));
     EXPECT_EQ(module2(b.p).Contado(0), 0);
-    EXPECT_FALSE(JogoTemDezenas(b.p, 0, 4)) << "a linha 0 (02 a 07) não tem o 01";
-    EXPECT_TRUE(JogoTemDezenas(b.p, 6, 4));
-    EXPECT_FALSE(JogoTemDezenas(b.p, 6, 4)) << "linha já contada";
+    EXPECT_FALSE(JogoTemDezenas(b.p, module2(b.p), 0, 4)) << "a linha 0 (02 a 07) não tem o 01";
+    EXPECT_TRUE(JogoTemDezenas(b.p, module2(b.p), 6, 4));
+    EXPECT_FALSE(JogoTemDezenas(b.p, module2(b.p), 6, 4)) << "linha já contada";
 }
 
 TEST(FazEstatistica, ContadorAlemDe16BitsEEstouro) {
     // 24 numbers taken 17: the rows holding four given numbers are
     // C(20, 13) = 77520, beyond the 16-bit counter.
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 24);
     CarregaNumeros(b.p);
     b.p.e.DezAposta = 17;
     const Int32 total = ArredondaApostas(RetQuantCombinacoes(24, 17));
-    IniciaProgresso(b.p, total);
-    ASSERT_TRUE(CombinaVetor(b.p, 24, 17, total));
+    IniciaProgresso(b.p, module2(b.p), total);
+    ASSERT_TRUE(CombinaVetor(b.p, module2(b.p), 24, 17, total));
     try {
-        FazEstatistica(b.p, b.p.e.NomeLoteria, total);
+        FazEstatistica(b.p, module2(b.p), b.p.e.NomeLoteria, total);
         FAIL() << "sem falha";
     } catch (const FalhaExecucao& f) {
         EXPECT_EQ(f.numero(), erro::Estouro);

@@ -1,5 +1,5 @@
-#include "apoio_conferencia.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/EntraTexto.h"
 #include "relatorios/Estatisticas.h"
 
@@ -11,31 +11,31 @@
 #include <set>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 using sorvelo::teste::falhaDe;
 
 namespace {
 
 // The window with a prompt that answers `resposta` (or presses Cancelar, or
 // is closed by its frame).
-struct Janela : Ambiente {
+struct Janela : ProgramaTeste {
     enum class Modo { Ok, Cancela, Fecha };
     std::unique_ptr<Estatisticas> forma;
     QString resposta = QStringLiteral("100");
     Modo modo = Modo::Ok;
     QStringList perguntas;
-    explicit Janela(const QString& jogo = QStringLiteral("Mega-Sena")) : Ambiente(jogo) { abre(); }
+    explicit Janela(const QString& jogo = QStringLiteral("Mega-Sena")) : ProgramaTeste(jogo) { abre(); }
     void abre() {
         forma = std::make_unique<Estatisticas>(p);
         forma->Carrega();
-        forma->mostraEntraTexto = [this] {
-            EntraTexto prompt(p.e);
+        d.dialogos.quando(Dialogo::EntraTexto, [this] {
+            EntraTexto prompt(p);
             prompt.Carrega();
             perguntas << prompt.tela.LblMensagem + QStringLiteral(" | ") + prompt.tela.TxtTexto.Text;
             prompt.tela.TxtTexto.Text = resposta;
             if (modo == Modo::Ok) prompt.BtnOK();
             if (modo == Modo::Cancela) prompt.BtnCancelar();
-        };
+        });
     }
     QString roda(const QString& r) {
         resposta = r;

@@ -1,6 +1,6 @@
 // The closing: all numbers of the game combined at the size of "Garantia
 // de:", with the auto-completion of short bets.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ QStringList numeros(const QString& linhaAposta) {
     return linhaAposta.mid(9).split(u' ', Qt::SkipEmptyParts);
 }
 
-bool gradeLimpa(const Bancada& b) {
+bool gradeLimpa(const ProgramaTeste& b) {
     for (int i = 0; i <= 99; ++i)
         if (b.p.tela.Num(i).BackColor != b.p.e.CorFundoNum) return false;
     return b.p.tela.TxtEscolhidos.Text == QStringLiteral("00");
@@ -32,11 +32,12 @@ TEST(DezenasDoFechamento, PalavrasEAlgarismos) {
 }
 
 TEST(Fechamento, QuinaDaMegaSenaContaDoMaiorNumero) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.TxtValAp.Text = QStringLiteral("4,50");
     Roteiro r;
     r.iniciar = false;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_EQ(b.p.e.QuantEscolhidos, 60);
     EXPECT_EQ(b.p.e.DezAposta, 5);
     EXPECT_EQ(b.p.e.TotalApostas, 5461512);
@@ -47,10 +48,11 @@ TEST(Fechamento, QuinaDaMegaSenaContaDoMaiorNumero) {
 }
 
 TEST(Fechamento, DuqueDaMegaSenaTem1770ApostasDeDois) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 1770);
     EXPECT_EQ(apostas.first(), QStringLiteral("00001)   01 02 "));
@@ -61,10 +63,11 @@ TEST(Fechamento, DuqueDaMegaSenaTem1770ApostasDeDois) {
 }
 
 TEST(Fechamento, CabecalhoTerminaEmQuarentaZeros) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     QString dezenas;
     for (int n = 1; n <= 60; ++n)
         dezenas += formata00(n) + u' ';
@@ -78,21 +81,23 @@ TEST(Fechamento, CabecalhoTerminaEmQuarentaZeros) {
 }
 
 TEST(Fechamento, LinhasDoHistorico) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
     r.autoCompletar = true;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_EQ(b.p.e.Historico, Agora + QStringLiteral(": Fechamento completo de Duque\r\n") + Agora +
                                    QStringLiteral(": Combinação de 60 números  de 02 em 02\r\n") + Agora +
                                    QStringLiteral(": Foi selecionada a opção Auto-Completar.\r\n"));
 }
 
 TEST(Fechamento, SemAutoCompletarNaoHaLinhaDeAutoCompletar) {
-    Bancada b(QStringLiteral("Quina"));
+    ProgramaTeste b(QStringLiteral("Quina"));
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_EQ(b.p.e.Historico.count(QStringLiteral("Auto-Completar")), 0);
     EXPECT_TRUE(b.p.e.Historico.endsWith(Agora + QStringLiteral(": Fechamento completo de Duque\r\n") +
                                          Agora +
@@ -101,11 +106,12 @@ TEST(Fechamento, SemAutoCompletarNaoHaLinhaDeAutoCompletar) {
 }
 
 TEST(Fechamento, AutoCompletarLevaCadaDuqueASeisNumeros) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
     r.autoCompletar = true;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 1770);
     for (int i = 0; i < apostas.size(); ++i) {
@@ -123,25 +129,27 @@ TEST(Fechamento, AutoCompletarLevaCadaDuqueASeisNumeros) {
 }
 
 TEST(Fechamento, AutoCompletarNaMegaAceitaOZero) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     b.d.aleatorio.enfileira(0.0f);
     Roteiro r;
     r.autoCompletar = true;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     const QStringList primeira = numeros(b.apostasBanco().value(0));
     ASSERT_EQ(primeira.size(), 6);
     EXPECT_EQ(primeira.mid(0, 3), (QStringList{"00", "01", "02"}));
 }
 
 TEST(Fechamento, DuqueDaLotofacilComAutoCompletarNuncaTem00) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     for (int i = 0; i < 20; ++i)
         b.d.aleatorio.enfileira(0.0f);
     Roteiro r;
     r.autoCompletar = true;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 300);
     for (const QString& a : apostas) {
@@ -153,41 +161,41 @@ TEST(Fechamento, DuqueDaLotofacilComAutoCompletarNuncaTem00) {
 }
 
 TEST(Fechamento, GradeFicaSemMarcas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_TRUE(gradeLimpa(b));
     EXPECT_FALSE(b.p.e.ModoFechamento);
 }
 
 TEST(Fechamento, ModoFechamentoSoComODialogoAberto) {
-    Bancada b;
-    Roteiro r;
-    r.iniciar = false;
-    JanelasCombinacao j = janelasRoteirizadas(r);
+    ProgramaTeste b;
     bool duranteODialogo = false;
-    const auto anterior = j.mostraCombinacoes;
-    j.mostraCombinacoes = [&](Programa& p) {
-        duranteODialogo = p.e.ModoFechamento;
-        anterior(p);
-    };
-    BtnFechar(b.p, j);
+    b.d.dialogos.quando(Dialogo::Combinacoes, [&] {
+        duranteODialogo = b.p.e.ModoFechamento;
+        Combinacoes dlg(b.p, b.p.module2);
+        dlg.BtnCancelar();
+    });
+    BtnFechar(b.p);
     EXPECT_TRUE(duranteODialogo);
     EXPECT_FALSE(b.p.e.ModoFechamento);
 }
 
 TEST(Fechamento, CanceladoDeixaGradeSemMarcasEBancoComoEstava) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     const QString banco = b.p.tela.TxtBanco.texto();
     b.marcaFaixa(20, 25);
     Roteiro cancela;
     cancela.iniciar = false;
-    BtnFechar(b.p, janelasRoteirizadas(cancela));
+    roteiriza(b, cancela);
+    BtnFechar(b.p);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_TRUE(gradeLimpa(b));
     EXPECT_EQ(b.p.tela.TxtBanco.texto(), banco);
@@ -198,12 +206,13 @@ TEST(Fechamento, CanceladoDeixaGradeSemMarcasEBancoComoEstava) {
 }
 
 TEST(Fechamento, FixosNaoEntram) {
-    Bancada b;
+    ProgramaTeste b;
     b.fixa({5, 10});
     b.p.tela.ChkFixar.Value = true;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_TRUE(b.p.e.VetFixos(0).isEmpty());
     for (const QString& a : b.apostasBanco())
         ASSERT_EQ(numeros(a).size(), 2);
@@ -212,10 +221,11 @@ TEST(Fechamento, FixosNaoEntram) {
 }
 
 TEST(Fechamento, FalhaDeMemoriaLimpaAGradeETerminaComoCancelamento) {
-    Bancada b;
+    ProgramaTeste b;
     module2(b.p).limiteMemoria = 100000;
     Roteiro r;
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
     EXPECT_EQ(b.d.caixa.vistas()[0].texto, MensagemMemoriaInsuficiente());
     EXPECT_TRUE(b.p.e.Cancelado);
@@ -225,11 +235,12 @@ TEST(Fechamento, FalhaDeMemoriaLimpaAGradeETerminaComoCancelamento) {
 }
 
 TEST(Fechamento, EstatisticaEscondidaNoFechamento) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.tela.CmbFecha.Text = QStringLiteral("Duque");
     Roteiro r;
     r.estatistica = true; // the box is hidden: the click does nothing
-    BtnFechar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnFechar(b.p);
     EXPECT_FALSE(b.p.e.ComEstatistica);
     EXPECT_FALSE(r.caretNoFim);
 }

@@ -93,7 +93,7 @@ TEST_F(Filtro, CancelarNaoMexeNoBanco) {
     const QString texto = b.p.tela.TxtBanco.texto();
     Filtrar f(b.p);
     bool fechou = false;
-    f.aoFechar = [&] { fechou = true; };
+    Ligacao vigiaFecho(f.aoFechar, [&] { fechou = true; });
     f.ChkSeq.Value = true;
     f.BtnCancelar();
     EXPECT_TRUE(fechou);
@@ -463,13 +463,15 @@ TEST_F(Filtro, BotaoDoPrincipalRegistraNoHistoricoMesmoCancelando) {
     const QString historico = b.p.e.Historico;
     const QString texto = b.p.tela.TxtBanco.texto();
     int vezes = 0;
-    BtnFiltrar(b.p, [&](Programa& p) {
+    b.d.dialogos.quando(Dialogo::Filtrar, [&] {
+        Programa& p = b.p;
         ++vezes;
         EXPECT_EQ(p.e.Historico, historico + Agora + QStringLiteral(": Filtragem de apostas\r\n"));
         Filtrar f(p);
         f.ChkIgual.Value = true;
         f.BtnCancelar();
     });
+    BtnFiltrar(b.p);
     EXPECT_EQ(vezes, 1);
     EXPECT_EQ(b.p.e.Historico, historico + Agora + QStringLiteral(": Filtragem de apostas\r\n"));
     EXPECT_EQ(b.banco(), (QStringList{"01 02 03", "04 05 06"}));
@@ -480,10 +482,11 @@ TEST_F(Filtro, OkSemNadaMarcadoReescreveOTexto) {
     b.p.e.DezEscolhidas = QStringLiteral("01 02 03 ");
     InsereLinhaBanco(b.p, CabecalhoLote(b.p), true);
     b.apostas({"01 02 03"});
-    BtnFiltrar(b.p, [](Programa& p) {
-        Filtrar f(p);
+    b.d.dialogos.quando(Dialogo::Filtrar, [&] {
+        Filtrar f(b.p);
         f.BtnOK();
     });
+    BtnFiltrar(b.p);
     EXPECT_EQ(b.p.tela.TxtBanco.texto(), QStringLiteral("00001)   01 02 03 \r\n"));
     EXPECT_TRUE(b.p.e.Historico.endsWith(QStringLiteral(": Filtragem de apostas\r\n")));
 }

@@ -1,6 +1,6 @@
 // The full combination flow, from "Iniciar Combinação completa" to the bank,
 // with the dialogs driven as a user would and a fixed clock.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -12,10 +12,11 @@ const QString LinhaSeteASeis = Agora + QStringLiteral(": Combinação de 07 núm
 }
 
 TEST(FluxoCombinacao, SemNumerosMarcadosAvisaENadaMais) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.e.Cancelado = true;
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
     EXPECT_EQ(b.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Informacao);
     EXPECT_EQ(b.d.caixa.vistas()[0].texto, QStringLiteral("Favor selecionar os números a combinar"));
@@ -25,20 +26,22 @@ TEST(FluxoCombinacao, SemNumerosMarcadosAvisaENadaMais) {
 }
 
 TEST(FluxoCombinacao, SoFixosNaoBastam) {
-    Bancada b;
+    ProgramaTeste b;
     b.fixa({1, 2, 3});
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(r.vezesCombinacoes, 0);
     EXPECT_EQ(b.d.caixa.vistas().size(), 1u);
 }
 
 TEST(FluxoCombinacao, DaGradeAoBanco) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     b.dezenasPorAposta(6);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(r.lblTotAp, QStringLiteral(" 7"));
     EXPECT_EQ(r.lblValAp, QStringLiteral("31,50"));
     EXPECT_EQ(b.p.e.Historico, LinhaSeteASeis);
@@ -67,22 +70,24 @@ TEST(FluxoCombinacao, DaGradeAoBanco) {
 }
 
 TEST(FluxoCombinacao, DialogoMostraEstatisticaForaDoFechamento) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
     r.iniciar = false;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_TRUE(r.chkEstVisivel);
     EXPECT_FALSE(r.chkAutoVisivel);
     EXPECT_TRUE(r.chkEstHabilitado);
 }
 
 TEST(FluxoCombinacao, DezenasPorApostaAcimaDasEscolhidasDaCabecalhoSemAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     b.dezenasPorAposta(6);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(r.lblTotAp, QStringLiteral(" 0"));
     EXPECT_EQ(r.lblValAp, QStringLiteral("0,00"));
     EXPECT_EQ(r.vezesInsere, 1);
@@ -93,19 +98,21 @@ TEST(FluxoCombinacao, DezenasPorApostaAcimaDasEscolhidasDaCabecalhoSemAposta) {
 }
 
 TEST(FluxoCombinacao, DezenasPorApostaIgualAsEscolhidasDaUmaAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marca({4, 8, 15, 16, 23, 42});
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   04 08 15 16 23 42 ")});
 }
 
 TEST(FluxoCombinacao, ZeroDezenasPorApostaDaUmaApostaVazia) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 4);
     b.dezenasPorAposta(0);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(r.lblTotAp, QStringLiteral(" 1"));
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   ")});
     EXPECT_EQ(b.p.e.VetBan.valor(0, 0), QStringLiteral("#"));
@@ -113,11 +120,12 @@ TEST(FluxoCombinacao, ZeroDezenasPorApostaDaUmaApostaVazia) {
 }
 
 TEST(FluxoCombinacao, FixosEntramEmTodasAsApostas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     b.fixa({59, 60});
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 7);
     EXPECT_EQ(apostas[0], QStringLiteral("00001)   01 02 03 04 05 06 59 60 "));
@@ -126,11 +134,12 @@ TEST(FluxoCombinacao, FixosEntramEmTodasAsApostas) {
 }
 
 TEST(FluxoCombinacao, EstatisticaSegueAsApostasECaretVaiAoFim) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
     r.estatistica = true;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_TRUE(b.p.e.ComEstatistica);
     EXPECT_TRUE(r.caretNoFim);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().endsWith(
@@ -143,26 +152,23 @@ TEST(FluxoCombinacao, EstatisticaSegueAsApostasECaretVaiAoFim) {
 }
 
 TEST(FluxoCombinacao, MensagensDoDialogoDuranteAExecucao) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
-    Roteiro r;
-    r.iniciar = false;
-    JanelasCombinacao j = janelasRoteirizadas(r);
     QStringList mensagens;
-    j.mostraCombinacoes = [&](Programa& p) {
-        Combinacoes dlg(p);
-        dlg.aoMudarMensagem = [&] { mensagens << dlg.LblMensagem; };
+    b.d.dialogos.quando(Dialogo::Combinacoes, [&] {
+        Combinacoes dlg(b.p, b.p.module2);
+        dlg.aoMudarMensagem.liga([&] { mensagens << dlg.LblMensagem; });
         dlg.clicaEstatistica();
         dlg.BtnIniciar();
         EXPECT_FALSE(dlg.aberto());
-    };
-    BtnIniciar(b.p, j);
+    });
+    BtnIniciar(b.p);
     EXPECT_EQ(mensagens, (QStringList{QStringLiteral("Efetuando combinações..."),
                                       QStringLiteral("Fazendo estatística de acertos..."), QString()}));
 }
 
 TEST(FluxoCombinacao, BarraComSeisVezesOTotalNaEstatistica) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 20); // 38760 bets
     Roteiro r;
     r.estatistica = true;
@@ -170,17 +176,19 @@ TEST(FluxoCombinacao, BarraComSeisVezesOTotalNaEstatistica) {
     b.d.cedencia.aoCeder = [&](long long) {
         if (b.p.e.ComEstatistica) maximoNaContagem = module2(b.p).Progresso.Max;
     };
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(maximoNaContagem, float(38760.0 * 6 / 100 + 1));
 }
 
 TEST(FluxoCombinacao, LotofacilNaoDeixaMarcarEstatistica) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.marcaFaixa(1, 16);
     b.dezenasPorAposta(15);
     Roteiro r;
     r.estatistica = true;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_FALSE(r.chkEstHabilitado);
     EXPECT_FALSE(b.p.e.ComEstatistica);
     EXPECT_FALSE(r.caretNoFim);
@@ -189,22 +197,25 @@ TEST(FluxoCombinacao, LotofacilNaoDeixaMarcarEstatistica) {
 }
 
 TEST(FluxoCombinacao, LotomaniaTambemNao) {
-    Bancada b(QStringLiteral("Lotomania"));
+    ProgramaTeste b(QStringLiteral("Lotomania"));
     b.marcaFaixa(0, 50);
     Roteiro r;
     r.estatistica = true;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_FALSE(r.chkEstHabilitado);
     EXPECT_FALSE(b.p.e.ComEstatistica);
     EXPECT_EQ(b.apostasBanco().size(), 51);
 }
 
 TEST(FluxoCombinacao, BancoComApostasPerguntaSeLimpa) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
     const CaixaVista& v = b.d.caixa.vistas()[0];
     EXPECT_EQ(v.texto, QStringLiteral("Limpar o banco de apostas para inserir os novos jogos?"));
@@ -214,12 +225,14 @@ TEST(FluxoCombinacao, BancoComApostasPerguntaSeLimpa) {
 }
 
 TEST(FluxoCombinacao, NaoAcrescentaSegundoBlocoNumeradoDeNovo) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     b.d.caixa.responde(Resposta::Nao);
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 14);
     EXPECT_TRUE(apostas[6].startsWith(QStringLiteral("00007)")));
@@ -236,13 +249,15 @@ TEST(FluxoCombinacao, NaoAcrescentaSegundoBlocoNumeradoDeNovo) {
 }
 
 TEST(FluxoCombinacao, SimEsvaziaOBancoAntes) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     b.d.caixa.responde(Resposta::Sim); // clear the bank
     b.d.caixa.responde(Resposta::Nao); // do not save
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     ASSERT_EQ(b.d.caixa.vistas().size(), 2u);
     EXPECT_EQ(b.d.caixa.vistas()[1].texto, QStringLiteral("Deseja salvar as apostas atuais?"));
     EXPECT_EQ(b.p.e.QuantBan, 7);
@@ -254,11 +269,12 @@ TEST(FluxoCombinacao, SimEsvaziaOBancoAntes) {
 }
 
 TEST(FluxoCombinacao, CancelarAntesDeIniciarNaoTocaNoBanco) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     Roteiro r;
     r.iniciar = false;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
@@ -267,7 +283,7 @@ TEST(FluxoCombinacao, CancelarAntesDeIniciarNaoTocaNoBanco) {
 }
 
 TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10); // 210 rows
     Roteiro r;
     r.estatistica = true;
@@ -276,7 +292,8 @@ TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
     };
     Module2& m = module2(b.p);
     m.QuantQuadras(0) = 1234;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(m.LinhaRes, 210) << "o gerador vai até a última linha";
     EXPECT_EQ(b.d.cedencia.quantas, 1 + 210) << "sem contagem de acertos";
     EXPECT_EQ(m.QuantQuadras(0), 1234);
@@ -287,14 +304,15 @@ TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
 }
 
 TEST(FluxoCombinacao, CancelarDuranteAContagemNaoLevaNadaAoBanco) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     Roteiro r;
     r.estatistica = true;
     b.d.cedencia.aoCeder = [&](long long n) {
         if (n == 300) r.combinacoes->BtnCancelar();
     };
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_EQ(b.d.cedencia.quantas, 1 + 210 + 1 + 6 * 210) << "a contagem vai até o fim";
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 0);
@@ -302,7 +320,7 @@ TEST(FluxoCombinacao, CancelarDuranteAContagemNaoLevaNadaAoBanco) {
 }
 
 TEST(FluxoCombinacao, Timer1ApagaOCancelamentoEOFluxoSegue) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     Roteiro r;
     // Every yield lasts one tick of Timer1; the cancel comes at yield 40 and
@@ -311,28 +329,30 @@ TEST(FluxoCombinacao, Timer1ApagaOCancelamentoEOFluxoSegue) {
         if (n == 40 && r.combinacoes) r.combinacoes->BtnCancelar();
         TickTimer1(b.p);
     };
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_FALSE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 1);
     EXPECT_EQ(b.p.e.QuantBan, 210);
 }
 
 TEST(FluxoCombinacao, CancelamentoPertoDoFimSobrevive) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     Roteiro r;
     b.d.cedencia.aoCeder = [&](long long n) {
         if (n == 200 && r.combinacoes) r.combinacoes->BtnCancelar();
         TickTimer1(b.p);
     };
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_EQ(b.p.e.QuantBan, 0);
 }
 
 TEST(Timer1, ApagaCanceladoACada31Tiques) {
-    Bancada b;
+    ProgramaTeste b;
     b.p.e.Cancelado = true;
     for (int i = 0; i < 30; ++i)
         TickTimer1(b.p);
@@ -348,14 +368,15 @@ TEST(Timer1, ApagaCanceladoACada31Tiques) {
 }
 
 TEST(FluxoCombinacao, CancelarNaInsercaoDepoisDe26Apostas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     Roteiro r;
     r.estatistica = true;
     b.d.cedencia.aoCeder = [&](long long) {
         if (r.insere && b.p.e.QuantBan == 26) r.insere->BtnCancelar();
     };
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 26);
     EXPECT_TRUE(apostas.last().startsWith(QStringLiteral("00026)")));
@@ -366,11 +387,12 @@ TEST(FluxoCombinacao, CancelarNaInsercaoDepoisDe26Apostas) {
 }
 
 TEST(FluxoCombinacao, FalhaDeMemoriaTerminaComoCancelamento) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 20);
     module2(b.p).limiteMemoria = 4096;
     Roteiro r;
-    BtnIniciar(b.p, janelasRoteirizadas(r));
+    roteiriza(b, r);
+    BtnIniciar(b.p);
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
     EXPECT_EQ(b.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Critico);
     EXPECT_EQ(b.d.caixa.vistas()[0].texto,
@@ -381,12 +403,13 @@ TEST(FluxoCombinacao, FalhaDeMemoriaTerminaComoCancelamento) {
 }
 
 TEST(FluxoCombinacao, ContagemAlemDe32BitsParaOPrograma) {
-    Bancada b(QStringLiteral("Lotomania"));
+    ProgramaTeste b(QStringLiteral("Lotomania"));
     b.marcaFaixa(0, 59);
     b.dezenasPorAposta(30);
     Roteiro r;
     try {
-        BtnIniciar(b.p, janelasRoteirizadas(r));
+        roteiriza(b, r);
+        BtnIniciar(b.p);
         FAIL() << "sem falha";
     } catch (const FalhaExecucao& f) {
         EXPECT_EQ(f.numero(), erro::Estouro);

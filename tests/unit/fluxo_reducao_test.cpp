@@ -1,6 +1,6 @@
 // The reduced combination from "Iniciar Combinação reduzida" to the bank,
 // with the dialogs driven as a user would and a fixed clock.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 #include "ReducaoReferencia.h"
 #include "combinacoes/CombinacaoReduzida.h"
 #include "combinacoes/InsereVetorReduz.h"
@@ -33,11 +33,12 @@ struct RoteiroReducao {
     bool insereAbertoNoFim = true;
 };
 
-JanelasReducao janelas(RoteiroReducao& r) {
-    JanelasReducao j;
-    j.mostraCombinacoesReduz = [&r](Programa& p) {
+// Gives the program's reduction dialogs this script.
+void roteiriza(ProgramaTeste& b, RoteiroReducao& r) {
+    Programa& p = b.p;
+    b.d.dialogos.quando(Dialogo::CombinacoesReduz, [&r, &p] {
         ++r.vezesCombinacoesReduz;
-        CombinacoesReduz dlg(p);
+        CombinacoesReduz dlg(p, p.module2);
         r.lblDezComb = dlg.LblDezComb;
         r.lblDezApo = dlg.LblDezApo;
         r.lblGarantia = dlg.LblGarantia;
@@ -46,32 +47,37 @@ JanelasReducao janelas(RoteiroReducao& r) {
             dlg.BtnIniciar();
         else
             dlg.BtnCancelar();
-    };
-    j.mostraInsereVetorReduz = [&r](Programa& p) {
+    });
+    b.d.dialogos.quando(Dialogo::InsereVetorReduz, [&r, &p] {
         ++r.vezesInsere;
         InsereVetorReduz dlg(p);
-        dlg.aoMudarMensagem = [&r, &dlg] { r.mensagens << dlg.LblMensagem; };
+        Ligacao mensagem(dlg.aoMudarMensagem, [&r, &dlg] { r.mensagens << dlg.LblMensagem; });
         dlg.aoContar = [&r](const QString& t) { r.contadores << t; };
         r.insere = &dlg;
         dlg.ativa();
         r.insereAbertoNoFim = dlg.aberto();
         r.insere = nullptr;
-    };
-    j.mostraCombSuperReduz = [&r](Programa&) { ++r.vezesSuper; };
-    return j;
+    });
+    b.d.dialogos.quando(Dialogo::CombSuperReduz, [&r] { ++r.vezesSuper; });
 }
 
-void garantiaDe(Bancada& b, const QString& texto) {
+// "Iniciar Combinação reduzida" with the dialogs scripted.
+void reduz(ProgramaTeste& b, RoteiroReducao& r) {
+    roteiriza(b, r);
+    BtnReduz(b.p);
+}
+
+void garantiaDe(ProgramaTeste& b, const QString& texto) {
     b.p.tela.CmbGarantia.Text = texto;
     CliqueGarantia(b.p);
 }
 
-QString caixaUnica(const Bancada& b) {
+QString caixaUnica(const ProgramaTeste& b) {
     return b.d.caixa.vistas().size() == 1 ? b.d.caixa.vistas()[0].texto : QStringLiteral("<várias>");
 }
 
 // A bank with one bet of the marked numbers 01..06, then the grid cleared.
-void bancoComUmaAposta(Bancada& b) {
+void bancoComUmaAposta(ProgramaTeste& b) {
     b.marcaFaixa(1, 6);
     InsereApostaMarcada(b.p);
     LimpaNumeros(b.p);
@@ -81,13 +87,13 @@ void bancoComUmaAposta(Bancada& b) {
 } // namespace
 
 TEST(FluxoReducao, DezNumerosQuadraEmSeisDaVinteESeteApostas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     garantiaDe(b, QStringLiteral("Quadra"));
     EXPECT_EQ(b.p.tela.CmbAcertar.Text, QStringLiteral("4"));
     EXPECT_EQ(b.p.tela.TxtDezAp2.Text, QStringLiteral("06"));
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_TRUE(b.d.caixa.vistas().empty());
     EXPECT_EQ(r.lblDezComb, QStringLiteral("10"));
     EXPECT_EQ(r.lblDezApo, QStringLiteral("06"));
@@ -118,12 +124,12 @@ TEST(FluxoReducao, DezNumerosQuadraEmSeisDaVinteESeteApostas) {
 }
 
 TEST(FluxoReducao, CoresDasLinhasENegritoDoCabecalhoEDoFim) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 6);
     garantiaDe(b, QStringLiteral("Terno"));
     b.p.tela.TxtDezAp2.Text = QStringLiteral("4");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     const DocumentoRico& d = b.p.tela.TxtBanco;
     const QString t = d.texto();
     const qsizetype linha1 = t.indexOf(QStringLiteral("00001)"));
@@ -140,11 +146,11 @@ TEST(FluxoReducao, CoresDasLinhasENegritoDoCabecalhoEDoFim) {
 }
 
 TEST(FluxoReducao, FasesEContadorDoDialogo) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     garantiaDe(b, QStringLiteral("Quadra"));
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(r.mensagens, (QStringList{QStringLiteral("Combinando números..."),
                                         QStringLiteral("Aguarde alguns minutos..."),
                                         QStringLiteral("Reduzindo combinações..."),
@@ -159,11 +165,11 @@ TEST(FluxoReducao, FasesEContadorDoDialogo) {
 }
 
 TEST(FluxoReducao, NadaMarcadoAvisaComOBancoJaLimpo) {
-    Bancada b;
+    ProgramaTeste b;
     bancoComUmaAposta(b);
     b.d.caixa.responde(Resposta::Nao);
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     ASSERT_EQ(b.d.caixa.vistas().size(), 2u);
     EXPECT_EQ(b.d.caixa.vistas()[0].texto, QStringLiteral("Deseja salvar as apostas atuais?"));
     EXPECT_EQ(b.d.caixa.vistas()[1].tipo, CaixaVista::Tipo::Informacao);
@@ -174,11 +180,11 @@ TEST(FluxoReducao, NadaMarcadoAvisaComOBancoJaLimpo) {
 }
 
 TEST(FluxoReducao, QuinaComCincoNumerosRecusa) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     garantiaDe(b, QStringLiteral("Quina"));
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
     EXPECT_EQ(b.d.caixa.vistas()[0].tipo, CaixaVista::Tipo::Critico);
     EXPECT_EQ(caixaUnica(b), QStringLiteral("Não é possível fazer redução com os parâmetros informados!"));
@@ -187,36 +193,36 @@ TEST(FluxoReducao, QuinaComCincoNumerosRecusa) {
 }
 
 TEST(FluxoReducao, QuinaComSeisNumerosDaSeisSubconjuntosEmUmaAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 6);
     garantiaDe(b, QStringLiteral("Quina"));
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.p.e.TotalApostas, 6);
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   01 02 03 04 05 06 ")});
 }
 
 TEST(FluxoReducao, GarantiaAcimaDoAcertarComReduzirRecusa) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     CliqueReduzir(b.p, true);
     garantiaDe(b, QStringLiteral("Quina"));
     b.p.tela.CmbAcertar.Text = QStringLiteral("4");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.d.caixa.vistas().at(0).tipo, CaixaVista::Tipo::Critico);
     EXPECT_EQ(caixaUnica(b), QStringLiteral("A garantia deve ser menor ou igual à quant. a acertar!"));
     EXPECT_EQ(r.vezesSuper, 0);
 }
 
 TEST(FluxoReducao, ComReduzirVaiParaASuperReducao) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     CliqueReduzir(b.p, true);
     garantiaDe(b, QStringLiteral("Quadra"));
     b.p.tela.CmbAcertar.Text = QStringLiteral("6");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_TRUE(b.d.caixa.vistas().empty());
     EXPECT_EQ(r.vezesSuper, 1);
     EXPECT_EQ(r.vezesCombinacoesReduz, 0);
@@ -227,7 +233,7 @@ TEST(FluxoReducao, ComReduzirVaiParaASuperReducao) {
 }
 
 TEST(FluxoReducao, CliquesDeGarantiaEReduzir) {
-    Bancada b;
+    ProgramaTeste b;
     EXPECT_FALSE(b.p.tela.CmbAcertar.Enabled);
     garantiaDe(b, QStringLiteral("20"));
     EXPECT_EQ(b.p.tela.CmbAcertar.Text, QStringLiteral("20"));
@@ -244,14 +250,14 @@ TEST(FluxoReducao, CliquesDeGarantiaEReduzir) {
 }
 
 TEST(FluxoReducao, FixosEntramSoNoFim) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 3);
     b.marca({4});
     b.fixa({9});
     garantiaDe(b, QStringLiteral("Terno"));
     b.p.tela.TxtDezAp2.Text = QStringLiteral("3");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.p.e.QuantEscolhidos, 4) << "the fixed number is not chosen";
     EXPECT_EQ(
         b.apostasBanco(),
@@ -263,40 +269,40 @@ TEST(FluxoReducao, FixosEntramSoNoFim) {
 }
 
 TEST(FluxoReducao, FixosNoMeioDaAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marca({1, 2, 30, 40});
     b.fixa({5, 35});
     garantiaDe(b, QStringLiteral("Duque"));
     b.p.tela.TxtDezAp2.Text = QStringLiteral("4");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   01 02 05 30 35 40 ")});
 }
 
 TEST(FluxoReducao, PerguntaDeSalvarSimSalvaELimpa) {
-    Bancada b;
+    ProgramaTeste b;
     bancoComUmaAposta(b);
-    int salvou = 0;
-    b.p.salvarArquivo = [&salvou](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(b);
     b.marcaFaixa(1, 6);
     garantiaDe(b, QStringLiteral("Quina"));
     b.d.caixa.responde(Resposta::Sim);
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
-    EXPECT_EQ(salvou, 1);
+    reduz(b, r);
+    EXPECT_EQ(salvamento.vezes(), 1);
+    EXPECT_EQ(salvamento.apostasNoArquivo(), 1);
     EXPECT_EQ(b.p.e.Historico, Limpou + Reduzida + garantia(QStringLiteral("Quina"), QStringLiteral("5")));
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   01 02 03 04 05 06 ")});
 }
 
 TEST(FluxoReducao, PerguntaDeSalvarCancelarDeixaAsApostasAntigasEntrarNaReducao) {
-    Bancada b;
+    ProgramaTeste b;
     bancoComUmaAposta(b);
     b.p.e.Historico = QStringLiteral("antes\r\n");
     b.marcaFaixa(10, 15);
     garantiaDe(b, QStringLiteral("Quina"));
     b.d.caixa.responde(Resposta::Cancelar);
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.apostasBanco(), (QStringList{QStringLiteral("00001)   01 02 03 04 05 06 "),
                                              QStringLiteral("00002)   10 11 12 13 14 15 ")}));
     EXPECT_EQ(b.p.e.QuantBan, 2);
@@ -306,23 +312,23 @@ TEST(FluxoReducao, PerguntaDeSalvarCancelarDeixaAsApostasAntigasEntrarNaReducao)
 }
 
 TEST(FluxoReducao, PerguntaDeSalvarNaoDeixaSoOsNovos) {
-    Bancada b;
+    ProgramaTeste b;
     bancoComUmaAposta(b);
     b.marcaFaixa(10, 15);
     garantiaDe(b, QStringLiteral("Quina"));
     b.d.caixa.responde(Resposta::Nao);
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   10 11 12 13 14 15 ")});
     EXPECT_FALSE(b.p.tela.TxtBanco.texto().contains(QStringLiteral("01 02 03 04 05 06")));
 }
 
 TEST(FluxoReducao, CancelarNasCombinacoesReduzidasNaoInsere) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     RoteiroReducao r;
     r.iniciar = false;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(b.p.e.Historico, Limpou + Reduzida);
@@ -330,18 +336,18 @@ TEST(FluxoReducao, CancelarNasCombinacoesReduzidasNaoInsere) {
 }
 
 TEST(FluxoReducao, MemoriaInsuficienteAntesDoDialogoDeInsercao) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     module2(b.p).limiteMemoria = 1000;
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(caixaUnica(b), MensagemMemoriaInsuficiente());
     EXPECT_EQ(r.vezesInsere, 0);
 }
 
 namespace {
 // Presses "Cancelar" of InsereVetorReduz at the n-th yield of a phase.
-void cancelaNaFase(Bancada& b, RoteiroReducao& r, InsereVetorReduz::Fase fase, int n) {
+void cancelaNaFase(ProgramaTeste& b, RoteiroReducao& r, InsereVetorReduz::Fase fase, int n) {
     auto vistas = std::make_shared<int>(0);
     b.d.cedencia.aoCeder = [&r, fase, n, vistas](long long) {
         if (r.insere && r.insere->fase() == fase && ++*vistas == n) r.insere->BtnCancelar();
@@ -350,11 +356,11 @@ void cancelaNaFase(Bancada& b, RoteiroReducao& r, InsereVetorReduz::Fase fase, i
 } // namespace
 
 TEST(FluxoReducao, CancelarNaFaseUmParaEDeixaOBancoVazio) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     RoteiroReducao r;
     cancelaNaFase(b, r, InsereVetorReduz::Fase::Combinando, 3);
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(r.mensagens, QStringList{QStringLiteral("Combinando números...")});
     EXPECT_EQ(r.contadores.last(), QStringLiteral("000039"));
     EXPECT_EQ(b.p.e.QuantBan, 0);
@@ -365,11 +371,11 @@ TEST(FluxoReducao, CancelarNaFaseUmParaEDeixaOBancoVazio) {
 }
 
 TEST(FluxoReducao, CancelarNaFaseDoisParaEDeixaOBancoVazio) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 12);
     RoteiroReducao r;
     cancelaNaFase(b, r, InsereVetorReduz::Fase::Reduzindo, 100);
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(r.mensagens.last(), QStringLiteral("Reduzindo combinações..."));
     EXPECT_EQ(b.p.e.QuantBan, 0);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
@@ -378,24 +384,24 @@ TEST(FluxoReducao, CancelarNaFaseDoisParaEDeixaOBancoVazio) {
 }
 
 TEST(FluxoReducao, CancelarNaFaseDoisComMuitasApostasNaoChegaAFalha) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     garantiaDe(b, QStringLiteral("Quadra"));
     b.p.tela.TxtDezAp2.Text = QStringLiteral("4");
     RoteiroReducao r;
     cancelaNaFase(b, r, InsereVetorReduz::Fase::Reduzindo, 150);
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.p.e.QuantBan, 0);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
 }
 
 TEST(FluxoReducao, CancelarNaFaseTresSoFechaOInsercaoVaiAoFim) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     RoteiroReducao r;
     garantiaDe(b, QStringLiteral("Quadra"));
     cancelaNaFase(b, r, InsereVetorReduz::Fase::Inserindo, 1);
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(r.mensagens.last(), QStringLiteral("Inserindo jogos no banco de apostas..."));
     EXPECT_EQ(b.apostasBanco().size(), 27);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().endsWith(QStringLiteral("\r\n\r\n")));
@@ -403,24 +409,24 @@ TEST(FluxoReducao, CancelarNaFaseTresSoFechaOInsercaoVaiAoFim) {
 }
 
 TEST(FluxoReducao, DezFinalComLixoValeZeroEDaOsSubconjuntos) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     garantiaDe(b, QStringLiteral("Quadra"));
     b.p.tela.TxtDezAp2.Text = QStringLiteral("abc");
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.p.e.DezFinal, 0);
     EXPECT_EQ(b.apostasBanco().size(), 5);
     EXPECT_EQ(b.apostasBanco()[0], QStringLiteral("00001)   01 02 03 04 "));
 }
 
 TEST(FluxoReducao, DezFinalQueEstouraDezesseisBitsEhFalha) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     b.p.tela.TxtDezAp2.Text = QStringLiteral("40000");
     RoteiroReducao r;
     try {
-        BtnReduz(b.p, janelas(r));
+        reduz(b, r);
         FAIL() << "no failure";
     } catch (const FalhaExecucao& f) {
         EXPECT_EQ(f.numero(), erro::Estouro);
@@ -428,22 +434,22 @@ TEST(FluxoReducao, DezFinalQueEstouraDezesseisBitsEhFalha) {
 }
 
 TEST(FluxoReducao, GarantiaSemNumeroDaUmaApostaVazia) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     garantiaDe(b, QStringLiteral("xyz"));
     RoteiroReducao r;
-    BtnReduz(b.p, janelas(r));
+    reduz(b, r);
     EXPECT_EQ(b.p.e.DezAposta, 0);
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   ")});
 }
 
 TEST(FluxoReducao, GarantiaNegativaTerminaEmFalhaDeSubscrito) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     garantiaDe(b, QStringLiteral("-3"));
     RoteiroReducao r;
     try {
-        BtnReduz(b.p, janelas(r));
+        reduz(b, r);
         FAIL() << "no failure";
     } catch (const FalhaExecucao& f) {
         EXPECT_EQ(f.numero(), erro::SubscritoForaIntervalo);
@@ -452,14 +458,14 @@ TEST(FluxoReducao, GarantiaNegativaTerminaEmFalhaDeSubscrito) {
 
 TEST(FluxoReducao, LotomaniaComDezFinalAcimaDe81TerminaEmFalha) {
     // Lotomania's list is disabled and keeps the guarantee of the game before.
-    Bancada b;
+    ProgramaTeste b;
     garantiaDe(b, QStringLiteral("Duque"));
     TrocaLoteria(b.p, QStringLiteral("Lotomania"));
     EXPECT_FALSE(b.p.tela.CmbGarantia.Enabled);
     b.marcaFaixa(0, 94);
     b.p.tela.TxtDezAp2.Text = QStringLiteral("90");
     RoteiroReducao r;
-    EXPECT_THROW(BtnReduz(b.p, janelas(r)), FalhaExecucao);
+    EXPECT_THROW(reduz(b, r), FalhaExecucao);
 }
 
 // ---- From the grid to the bank against the plain rule ----
@@ -467,7 +473,7 @@ TEST(FluxoReducao, LotomaniaComDezFinalAcimaDe81TerminaEmFalha) {
 TEST(FluxoReducao, FluxoIgualARegraEmCasosAleatoriosComESemFixos) {
     std::mt19937 g(31);
     for (int caso = 0; caso < 40; ++caso) {
-        Bancada b;
+        ProgramaTeste b;
         const int n = std::uniform_int_distribution<int>(5, 11)(g);
         const int k = std::uniform_int_distribution<int>(2, std::min(4, n - 1))(g);
         const int dezFinal = std::uniform_int_distribution<int>(k, 8)(g);
@@ -486,7 +492,7 @@ TEST(FluxoReducao, FluxoIgualARegraEmCasosAleatoriosComESemFixos) {
         b.p.tela.CmbGarantia.Text = QString::number(k);
         b.p.tela.TxtDezAp2.Text = QString::number(dezFinal);
         RoteiroReducao r;
-        BtnReduz(b.p, janelas(r));
+        reduz(b, r);
 
         // The plain rule on the subsets in ascending order, then the fixed
         // numbers joined and sorted.

@@ -29,17 +29,16 @@ struct Fluxo : BancadaSuper {
         p.tela.CmbAcertar.Text = acertar;
     }
     void iniciar() {
-        JanelasReducao j;
-        j.mostraCombinacoesReduz = [this](Programa&) { ++vezesOutros; };
-        j.mostraInsereVetorReduz = [this](Programa&) { ++vezesOutros; };
-        j.mostraCombSuperReduz = [this](Programa& prog) {
+        d.dialogos.quando(Dialogo::CombinacoesReduz, [this] { ++vezesOutros; });
+        d.dialogos.quando(Dialogo::InsereVetorReduz, [this] { ++vezesOutros; });
+        d.dialogos.quando(Dialogo::CombSuperReduz, [this] {
             ++vezesSuper;
-            SuperReducao dlg(prog);
-            dlg.aoMudarMensagem = [this, &dlg] { mensagens << dlg.LblMensagem; };
-            dlg.aoFechar = [this] { ++fechamentos; };
+            SuperReducao dlg(p);
+            Ligacao mensagem(dlg.aoMudarMensagem, [this, &dlg] { mensagens << dlg.LblMensagem; });
+            Ligacao fechou(dlg.aoFechar, [this] { ++fechamentos; });
             dlg.ativa();
-        };
-        BtnReduz(p, j);
+        });
+        BtnReduz(p);
     }
 };
 

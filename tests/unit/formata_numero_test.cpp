@@ -1,11 +1,11 @@
+#include "base/Semantica.h"
 #include "core/Module1.h"
-#include "core/Semantica.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

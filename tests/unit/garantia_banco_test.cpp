@@ -1,10 +1,10 @@
-#include "apoio_conferencia.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/GarantiaBanco.h"
 
 #include <gtest/gtest.h>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 
 TEST(VerificaGarantia, GarantiaDoQuadroPorNomeOuNumero) {
     EXPECT_EQ(garantiaDoQuadro(QStringLiteral("Duque")), 2);
@@ -15,7 +15,7 @@ TEST(VerificaGarantia, GarantiaDoQuadroPorNomeOuNumero) {
 }
 
 TEST(VerificaGarantia, LeGradeQuadroEBanco) {
-    Ambiente a(QStringLiteral("Quina"));
+    ProgramaTeste a(QStringLiteral("Quina"));
     a.marca({3, 7, 11, 15, 20});
     a.p.tela.CmbGarantia.Text = QStringLiteral("Terno");
     a.p.tela.CmbAcertar.Text = QStringLiteral("3");
@@ -33,7 +33,7 @@ TEST(VerificaGarantia, LeGradeQuadroEBanco) {
 }
 
 TEST(VerificaGarantia, AcertarAbaixoDaGarantiaContaComoAGarantia) {
-    Ambiente a(QStringLiteral("Quina"));
+    ProgramaTeste a(QStringLiteral("Quina"));
     a.marca({1, 2, 3, 4});
     a.p.tela.CmbGarantia.Text = QStringLiteral("Terno");
     a.p.tela.CmbAcertar.Text = QStringLiteral("2");
@@ -45,7 +45,7 @@ TEST(VerificaGarantia, AcertarAbaixoDaGarantiaContaComoAGarantia) {
 }
 
 TEST(VerificaGarantia, ImprimirMandaAListagemParaAImpressora) {
-    Ambiente a(QStringLiteral("Quina"));
+    ProgramaTeste a(QStringLiteral("Quina"));
     a.marca({1, 2, 3});
     a.p.tela.CmbGarantia.Text = QStringLiteral("Duque");
     a.p.tela.CmbAcertar.Text = QStringLiteral("2");

@@ -1,6 +1,6 @@
 // The generator of all combinations: the order of its rows, its yields and
 // its progress bar, its failure path, and the subsets of the statistics.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -18,17 +18,17 @@ QString linhaRes(const Programa& p, int linha, int quant) {
 }
 
 // Marks the numbers, loads them and runs the generator as the dialog does.
-bool gera(Bancada& b, int k) {
+bool gera(ProgramaTeste& b, int k) {
     CarregaNumeros(b.p);
     const Int16 n = ContaNumeros(b.p);
     const Int32 total = ArredondaApostas(RetQuantCombinacoes(n, Int16(int16_t(k))));
-    IniciaProgresso(b.p, total);
-    return CombinaVetor(b.p, n, Int16(int16_t(k)), total);
+    IniciaProgresso(b.p, module2(b.p), total);
+    return CombinaVetor(b.p, module2(b.p), n, Int16(int16_t(k)), total);
 }
 } // namespace
 
 TEST(CombinaVetor, OrdemDasLinhasDeCincoTresATres) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     ASSERT_TRUE(gera(b, 3));
     const QStringList esperadas = {"03 04 05", "02 04 05", "02 03 05", "02 03 04", "01 04 05",
@@ -41,7 +41,7 @@ TEST(CombinaVetor, OrdemDasLinhasDeCincoTresATres) {
 }
 
 TEST(CombinaVetor, MarcasForaDeOrdemChegamNaOrdemDaGrade) {
-    Bancada b;
+    ProgramaTeste b;
     b.marca({9, 2, 40, 17, 33});
     ASSERT_TRUE(gera(b, 3));
     // VetNum is in grid order, so the rows exclude positions of 02 09 17 33 40.
@@ -51,7 +51,7 @@ TEST(CombinaVetor, MarcasForaDeOrdemChegamNaOrdemDaGrade) {
 }
 
 TEST(CombinaVetor, NIgualAKDaUmaLinhaComTodos) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(10, 15);
     ASSERT_TRUE(gera(b, 6));
     EXPECT_EQ(module2(b.p).LinhaRes, 1);
@@ -60,7 +60,7 @@ TEST(CombinaVetor, NIgualAKDaUmaLinhaComTodos) {
 }
 
 TEST(CombinaVetor, SeteSeisATantasLinhasSemAMenorESemAMaior) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     ASSERT_TRUE(gera(b, 6));
     EXPECT_EQ(module2(b.p).LinhaRes, 7);
@@ -71,7 +71,7 @@ TEST(CombinaVetor, SeteSeisATantasLinhasSemAMenorESemAMaior) {
 TEST(CombinaVetor, UmaPosicaoExcluidaNaoEntraNoTransporte) {
     // n - k = 1: the single excluded position walks 0..k and the run ends
     // when it reaches its maximum, row i leaving out the i-th number.
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 9);
     ASSERT_TRUE(gera(b, 8));
     Module2& m = module2(b.p);
@@ -88,7 +88,7 @@ TEST(CombinaVetor, UmaPosicaoExcluidaNaoEntraNoTransporte) {
 }
 
 TEST(CombinaVetor, LidasDeTrasParaFrenteFicamEmOrdemCrescente) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 10);
     ASSERT_TRUE(gera(b, 4));
     const int total = 210;
@@ -105,7 +105,7 @@ TEST(CombinaVetor, LidasDeTrasParaFrenteFicamEmOrdemCrescente) {
 }
 
 TEST(CombinaVetor, NAbaixoDeKEscreveUmaLinhaComTodosEAcaba) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 3);
     ASSERT_TRUE(gera(b, 6));
     EXPECT_EQ(b.p.e.VetRes.ultimaLinha(), 0);
@@ -114,7 +114,7 @@ TEST(CombinaVetor, NAbaixoDeKEscreveUmaLinhaComTodosEAcaba) {
 }
 
 TEST(CombinaVetor, CedeAoLacoDeMensagensACadaLinha) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     std::vector<int> linhasNaCedencia;
     b.d.cedencia.aoCeder = [&](long long) { linhasNaCedencia.push_back(module2(b.p).LinhaRes.valor()); };
@@ -123,7 +123,7 @@ TEST(CombinaVetor, CedeAoLacoDeMensagensACadaLinha) {
 }
 
 TEST(CombinaVetor, FalhaDeMemoriaMostraAMensagemEDaFalso) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 20);
     module2(b.p).limiteMemoria = 1000;
     EXPECT_FALSE(gera(b, 6));
@@ -144,7 +144,7 @@ TEST(CombinaVetor, LimitePadraoDeixaPassarAQuinaDaMegaSena) {
 }
 
 TEST(CombinaVetor, ColunaAlemDe81TambemCaiNaMensagem) {
-    Bancada b(QStringLiteral("Lotomania"));
+    ProgramaTeste b(QStringLiteral("Lotomania"));
     b.marcaFaixa(0, 83);
     EXPECT_FALSE(gera(b, 83));
     ASSERT_EQ(b.d.caixa.vistas().size(), 1u);
@@ -152,7 +152,7 @@ TEST(CombinaVetor, ColunaAlemDe81TambemCaiNaMensagem) {
 }
 
 TEST(CombinaVetor, OitentaEDuasColunasAindaCabem) {
-    Bancada b(QStringLiteral("Lotomania"));
+    ProgramaTeste b(QStringLiteral("Lotomania"));
     b.marcaFaixa(0, 82);
     ASSERT_TRUE(gera(b, 82));
     EXPECT_EQ(module2(b.p).LinhaRes, 83);
@@ -161,21 +161,21 @@ TEST(CombinaVetor, OitentaEDuasColunasAindaCabem) {
 }
 
 TEST(PosicaoExcluida, ComparaComTodasAsPosicoes) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     m.UltPos = -1;
-    EXPECT_FALSE(PosicaoExcluida(b.p, 0));
+    EXPECT_FALSE(PosicaoExcluida(b.p, module2(b.p), 0));
     m.UltPos = 1;
     m.VetPos(0) = 3;
     m.VetPos(1) = 7;
-    EXPECT_TRUE(PosicaoExcluida(b.p, 3));
-    EXPECT_TRUE(PosicaoExcluida(b.p, 7));
-    EXPECT_FALSE(PosicaoExcluida(b.p, 5));
+    EXPECT_TRUE(PosicaoExcluida(b.p, module2(b.p), 3));
+    EXPECT_TRUE(PosicaoExcluida(b.p, module2(b.p), 7));
+    EXPECT_FALSE(PosicaoExcluida(b.p, module2(b.p), 5));
 }
 
 TEST(Progresso, NovecentosENoventaENoveTemPeriodoUm) {
-    Bancada b;
-    IniciaProgresso(b.p, 999);
+    ProgramaTeste b;
+    IniciaProgresso(b.p, module2(b.p), 999);
     const Module2& m = module2(b.p);
     EXPECT_EQ(m.PeriodoProgresso, 1);
     EXPECT_EQ(m.Progresso.Max, 1000.0f);
@@ -185,27 +185,27 @@ TEST(Progresso, NovecentosENoventaENoveTemPeriodoUm) {
 }
 
 TEST(Progresso, MilTemPeriodoCemEMaximoOnze) {
-    Bancada b;
-    IniciaProgresso(b.p, 1000);
+    ProgramaTeste b;
+    IniciaProgresso(b.p, module2(b.p), 1000);
     const Module2& m = module2(b.p);
     EXPECT_EQ(m.PeriodoProgresso, 100);
     EXPECT_EQ(m.Progresso.Max, 11.0f);
 }
 
 TEST(Progresso, MaximoEmPrecisaoSimples) {
-    Bancada b;
-    IniciaProgresso(b.p, 5461512);
+    ProgramaTeste b;
+    IniciaProgresso(b.p, module2(b.p), 5461512);
     EXPECT_EQ(module2(b.p).Progresso.Max, float(5461512.0 / 100 + 1));
 }
 
 TEST(Progresso, AvancaUmaVezPorPeriodo) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     std::vector<int32_t> valores;
-    m.aoMudarProgresso = [&](const BarraProgresso& barra) { valores.push_back(barra.Value); };
-    IniciaProgresso(b.p, 1000);
+    m.aoMudarProgresso.liga([&](const BarraProgresso& barra) { valores.push_back(barra.Value); });
+    IniciaProgresso(b.p, module2(b.p), 1000);
     for (int i = 0; i < 1000; ++i)
-        AvancaProgresso(b.p);
+        AvancaProgresso(b.p, module2(b.p));
     EXPECT_EQ(m.ValorProgresso, 10);
     EXPECT_EQ(m.Progresso.Value, 10);
     EXPECT_EQ(valores, (std::vector<int32_t>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
@@ -214,16 +214,16 @@ TEST(Progresso, AvancaUmaVezPorPeriodo) {
 }
 
 TEST(Progresso, ContadorDeCicloSegueDeUmaExecucaoAOutra) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     ASSERT_TRUE(gera(b, 6)); // seven rows at period 1
     Module2& m = module2(b.p);
     EXPECT_EQ(m.ContProgresso, 7);
     EXPECT_EQ(m.Progresso.Value, 7);
-    IniciaProgresso(b.p, 1000);
+    IniciaProgresso(b.p, module2(b.p), 1000);
     EXPECT_EQ(m.ContProgresso, 7) << "IniciaProgresso não zera o ciclo";
     for (int i = 0; i < 150; ++i)
-        AvancaProgresso(b.p);
+        AvancaProgresso(b.p, module2(b.p));
     // From 7 to 156 only 100 is a multiple of the period; from 0 it would
     // have been 0 and 100.
     EXPECT_EQ(m.ValorProgresso, 1);
@@ -231,32 +231,32 @@ TEST(Progresso, ContadorDeCicloSegueDeUmaExecucaoAOutra) {
 }
 
 TEST(Progresso, CicloVoltaAZeroEmMil) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
-    IniciaProgresso(b.p, 10);
+    IniciaProgresso(b.p, module2(b.p), 10);
     m.ContProgresso = 998;
-    AvancaProgresso(b.p);
+    AvancaProgresso(b.p, module2(b.p));
     EXPECT_EQ(m.ContProgresso, 999);
-    AvancaProgresso(b.p);
+    AvancaProgresso(b.p, module2(b.p));
     EXPECT_EQ(m.ContProgresso, 0);
 }
 
 TEST(Progresso, BarraRecusaValorAcimaDoMaximoEOLacoSegue) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
-    IniciaProgresso(b.p, 1); // maximum 2
+    IniciaProgresso(b.p, module2(b.p), 1); // maximum 2
     for (int i = 0; i < 5; ++i)
-        AvancaProgresso(b.p);
+        AvancaProgresso(b.p, module2(b.p));
     EXPECT_EQ(m.ValorProgresso, 5);
     EXPECT_EQ(m.Progresso.Value, 2);
 }
 
 TEST(GeraSubconjuntos, QuatroDeSeisRepeteOUltimo) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     for (int i = 0; i <= 5; ++i)
         m.VetSubBase(i) = Int16(int16_t(i + 1));
-    GeraSubconjuntos(b.p, 4, 6);
+    GeraSubconjuntos(b.p, module2(b.p), 4, 6);
     ASSERT_EQ(m.QuantSub, 16);
     auto sub = [&](int j) {
         QStringList s;
@@ -272,11 +272,11 @@ TEST(GeraSubconjuntos, QuatroDeSeisRepeteOUltimo) {
 }
 
 TEST(GeraSubconjuntos, TresDeCincoRepeteOUltimo) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     for (int i = 0; i <= 5; ++i)
         m.VetSubBase(i) = Int16(int16_t(10 * (i + 1)));
-    GeraSubconjuntos(b.p, 3, 5);
+    GeraSubconjuntos(b.p, module2(b.p), 3, 5);
     ASSERT_EQ(m.QuantSub, 11);
     EXPECT_EQ(m.Sub(9, 0), 10);
     EXPECT_EQ(m.Sub(9, 2), 30);
@@ -285,24 +285,24 @@ TEST(GeraSubconjuntos, TresDeCincoRepeteOUltimo) {
 }
 
 TEST(GeraSubconjuntos, UmaPosicaoExcluidaNaoRepete) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     for (int i = 0; i <= 5; ++i)
         m.VetSubBase(i) = Int16(int16_t(i + 1));
-    GeraSubconjuntos(b.p, 5, 6);
+    GeraSubconjuntos(b.p, module2(b.p), 5, 6);
     EXPECT_EQ(m.QuantSub, 6);
-    GeraSubconjuntos(b.p, 4, 5);
+    GeraSubconjuntos(b.p, module2(b.p), 4, 5);
     EXPECT_EQ(m.QuantSub, 5);
-    GeraSubconjuntos(b.p, 3, 4);
+    GeraSubconjuntos(b.p, module2(b.p), 3, 4);
     EXPECT_EQ(m.QuantSub, 4);
 }
 
 TEST(Module2, EstadoDoModuloViveComOPrograma) {
-    Bancada b;
+    ProgramaTeste b;
     Module2& m = module2(b.p);
     m.ContProgresso = 42;
     EXPECT_EQ(&module2(b.p), &m);
     EXPECT_EQ(module2(b.p).ContProgresso, 42);
-    Bancada outra;
+    ProgramaTeste outra;
     EXPECT_EQ(module2(outra.p).ContProgresso, 0);
 }

@@ -1,7 +1,7 @@
-#include "platform/Duplos.h"
+#include "apoio/Duplos.h"
 #include "platform/Servicos.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "programa_teste.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

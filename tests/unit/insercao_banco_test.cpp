@@ -1,7 +1,7 @@
 // The insertion of a generated combination into the bank: VetBan and the
 // coloured lines of TxtBanco, fixed numbers, auto-completion, the counter,
 // the yields and the cancel.
-#include "ApoioCombinacao.h"
+#include "apoio/Combinacao.h"
 
 #include <gtest/gtest.h>
 
@@ -12,15 +12,15 @@ using namespace sorvelo::teste;
 
 namespace {
 // Loads the grid and generates its numbers taken k, as the dialog does.
-void gera(Bancada& b, int k, bool autoCompletar = false) {
+void gera(ProgramaTeste& b, int k, bool autoCompletar = false) {
     auto& e = b.p.e;
     CarregaNumeros(b.p);
     e.QuantEscolhidos = ContaNumeros(b.p);
     e.DezAposta = Int16(int16_t(k));
     e.TotalApostas = ArredondaApostas(RetQuantCombinacoes(e.QuantEscolhidos, e.DezAposta));
     module2(b.p).AutoCompletar = autoCompletar ? 1 : 0;
-    IniciaProgresso(b.p, e.TotalApostas);
-    ASSERT_TRUE(CombinaVetor(b.p, e.QuantEscolhidos, e.DezAposta, e.TotalApostas));
+    IniciaProgresso(b.p, module2(b.p), e.TotalApostas);
+    ASSERT_TRUE(CombinaVetor(b.p, module2(b.p), e.QuantEscolhidos, e.DezAposta, e.TotalApostas));
     b.d.cedencia.quantas = 0;
 }
 
@@ -30,11 +30,11 @@ QStringList numeros(const QString& linhaAposta) {
 } // namespace
 
 TEST(InsereVetor, ZeroApostasDaCabecalhoSemApostaEFim) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 3);
     gera(b, 6);
     ASSERT_EQ(b.p.e.TotalApostas, 0);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_EQ(b.p.tela.TxtBanco.texto(), QStringLiteral("Dezenas escolhidas: 01 02 03 \r\n\r\n\r\n"));
     EXPECT_EQ(b.p.e.QuantBan, 0);
@@ -46,10 +46,10 @@ TEST(InsereVetor, ZeroApostasDaCabecalhoSemApostaEFim) {
 }
 
 TEST(InsereVetor, ApostasEmOrdemCrescenteNumeradasDeUm) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     gera(b, 3);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const QStringList esperadas = {"00001)   01 02 03 ", "00002)   01 02 04 ", "00003)   01 02 05 ",
                                    "00004)   01 03 04 ", "00005)   01 03 05 ", "00006)   01 04 05 ",
@@ -66,10 +66,10 @@ TEST(InsereVetor, ApostasEmOrdemCrescenteNumeradasDeUm) {
 }
 
 TEST(InsereVetor, CoresDasLinhas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 4);
     gera(b, 3);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const DocumentoRico& doc = b.p.tela.TxtBanco;
     const int64_t inicio = doc.texto().indexOf(QStringLiteral("00001)"));
@@ -83,12 +83,12 @@ TEST(InsereVetor, CoresDasLinhas) {
 }
 
 TEST(InsereVetor, TrezeApostasMudamOContadorUmaVez) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 13);
     gera(b, 12);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     QStringList vistos;
-    dlg.aoContar = [&](const QString& t) { vistos << t; };
+    dlg.aoContar.liga([&](const QString& t) { vistos << t; });
     dlg.ativa();
     EXPECT_EQ(vistos, QStringList{QStringLiteral(" 13")});
     EXPECT_EQ(dlg.LblCont, QStringLiteral(" 13"));
@@ -96,12 +96,12 @@ TEST(InsereVetor, TrezeApostasMudamOContadorUmaVez) {
 }
 
 TEST(InsereVetor, DozeApostasDeixamOContadorEmZero) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 12);
     gera(b, 11);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     int vezes = 0;
-    dlg.aoContar = [&](const QString&) { ++vezes; };
+    dlg.aoContar.liga([&](const QString&) { ++vezes; });
     dlg.ativa();
     EXPECT_EQ(dlg.LblCont, QStringLiteral("0"));
     EXPECT_EQ(vezes, 0);
@@ -110,16 +110,16 @@ TEST(InsereVetor, DozeApostasDeixamOContadorEmZero) {
 }
 
 TEST(InsereVetor, RotulosProntosAntesDaPrimeiraAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 8);
     gera(b, 6); // 28 bets
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     QStringList vistos;
     int apostasAntes = -1;
-    dlg.aoMostrarRotulos = [&] {
+    dlg.aoMostrarRotulos.liga([&] {
         vistos << dlg.LblCont << dlg.LblTotal;
         apostasAntes = b.p.e.QuantBan.valor();
-    };
+    });
     dlg.ativa();
     EXPECT_EQ(vistos, (QStringList{QStringLiteral("0"), QStringLiteral("de  28")}));
     EXPECT_EQ(apostasAntes, 0) << "the labels come before the run";
@@ -127,10 +127,10 @@ TEST(InsereVetor, RotulosProntosAntesDaPrimeiraAposta) {
 }
 
 TEST(InsereVetor, CedeACadaTrezeComOBancoEscondido) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 8);
     gera(b, 5); // 56 bets
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     std::vector<int> contagens;
     b.d.cedencia.aoCeder = [&](long long) {
         EXPECT_FALSE(b.p.tela.TxtBanco.visivel());
@@ -144,11 +144,11 @@ TEST(InsereVetor, CedeACadaTrezeComOBancoEscondido) {
 }
 
 TEST(InsereVetor, FixosEntramEmCadaApostaEmOrdem) {
-    Bancada b;
+    ProgramaTeste b;
     b.marca({1, 2, 3, 4, 6, 7});
     b.fixa({5, 10});
     gera(b, 6);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   01 02 03 04 05 06 07 10 ")});
     EXPECT_EQ(b.linhaVetBan(0), QStringLiteral("01 02 03 04 05 06 07 10 "));
@@ -158,11 +158,11 @@ TEST(InsereVetor, FixosEntramEmCadaApostaEmOrdem) {
 }
 
 TEST(InsereVetor, FixosSomamAoTamanhoDeCadaAposta) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     b.fixa({30, 60});
     gera(b, 6);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const QStringList apostas = b.apostasBanco();
     ASSERT_EQ(apostas.size(), 7);
@@ -174,11 +174,11 @@ TEST(InsereVetor, FixosSomamAoTamanhoDeCadaAposta) {
 }
 
 TEST(InsereVetor, AutoCompletarNaMegaAceitaOZeroComo00) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 5);
     gera(b, 5, true);
     b.d.aleatorio.enfileira(0.0f);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   00 01 02 03 04 05 ")});
     EXPECT_EQ(b.p.e.VetBan.valor(0, 0), QStringLiteral("00"));
@@ -186,7 +186,7 @@ TEST(InsereVetor, AutoCompletarNaMegaAceitaOZeroComo00) {
 }
 
 TEST(InsereVetor, AutoCompletarSorteiaDeZeroAoMaiorSemRepetir) {
-    Bancada b;
+    ProgramaTeste b;
     b.marca({10, 20, 30, 40});
     gera(b, 4, true);
     // 61 * r: 0.5 gives 30 (already in the bet, drawn again), 0.99999 gives
@@ -194,14 +194,14 @@ TEST(InsereVetor, AutoCompletarSorteiaDeZeroAoMaiorSemRepetir) {
     b.d.aleatorio.enfileira(0.5f);
     b.d.aleatorio.enfileira(0.99999f);
     b.d.aleatorio.enfileira(0.2f);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_EQ(b.apostasBanco(), QStringList{QStringLiteral("00001)   10 12 20 30 40 60 ")});
 }
 
 TEST(InsereVetor, SementeDoRelogioNaCarga) {
-    Bancada b;
-    InsereVetor dlg(b.p);
+    ProgramaTeste b;
+    InsereVetor dlg(b.p, b.p.module2);
     ASSERT_EQ(b.d.aleatorio.sementes.size(), 1u);
     EXPECT_EQ(b.d.aleatorio.sementes[0], 14 * 3600 + 5 * 60 + 9);
     EXPECT_EQ(dlg.TamanhoJogo, 6);
@@ -217,11 +217,11 @@ TEST(InsereVetor, TamanhoDoJogoPorLoteria) {
 }
 
 TEST(InsereVetor, LotofacilRecusaOZero) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.marca({1, 2});
     gera(b, 2, true);
     b.d.aleatorio.enfileira(0.0f);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     EXPECT_TRUE(dlg.ExisteNaLista(0));
     dlg.ativa();
     const QStringList n = numeros(b.apostasBanco().value(0));
@@ -230,11 +230,11 @@ TEST(InsereVetor, LotofacilRecusaOZero) {
 }
 
 TEST(InsereVetor, CancelarDepoisDe26ApostasGuardaAsEscritas) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 8);
     gera(b, 5); // 56 bets
     b.p.e.ComEstatistica = true;
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     b.d.cedencia.aoCeder = [&](long long n) {
         if (n == 2) dlg.BtnCancelar();
     };
@@ -250,18 +250,18 @@ TEST(InsereVetor, CancelarDepoisDe26ApostasGuardaAsEscritas) {
     EXPECT_TRUE(b.p.tela.TxtBanco.visivel());
     // The prize block and the end still follow.
     const QString texto = b.p.tela.TxtBanco.texto();
-    EXPECT_TRUE(texto.endsWith(QStringLiteral("\r\n\r\n") + RetornaEstatistica(b.p) +
+    EXPECT_TRUE(texto.endsWith(QStringLiteral("\r\n\r\n") + RetornaEstatistica(b.p, module2(b.p)) +
                                QStringLiteral("\r\n\r\n\r\n\r\n")));
 }
 
 TEST(InsereVetor, BlocoDeEstatisticaVerdeENegrito) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 7);
     gera(b, 6);
-    IniciaProgresso(b.p, b.p.e.TotalApostas * 6);
-    FazEstatistica(b.p, b.p.e.NomeLoteria, b.p.e.TotalApostas);
+    IniciaProgresso(b.p, module2(b.p), b.p.e.TotalApostas * 6);
+    FazEstatistica(b.p, module2(b.p), b.p.e.NomeLoteria, b.p.e.TotalApostas);
     b.p.e.ComEstatistica = true;
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const DocumentoRico& doc = b.p.tela.TxtBanco;
     const QString bloco =
@@ -276,27 +276,27 @@ TEST(InsereVetor, BlocoDeEstatisticaVerdeENegrito) {
 }
 
 TEST(InsereVetor, EstatisticaVaziaDaLotofacilDeixaSoAsLinhasEmBranco) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.marcaFaixa(1, 15);
     gera(b, 15);
     b.p.e.ComEstatistica = true;
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().endsWith(
         QStringLiteral("00001)   01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 \r\n\r\n\r\n\r\n\r\n\r\n")));
 }
 
 TEST(InsereVetor, SegundoBlocoSemLimparRecomecaEm00001) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 4);
     gera(b, 3);
     {
-        InsereVetor dlg(b.p);
+        InsereVetor dlg(b.p, b.p.module2);
         dlg.ativa();
     }
     gera(b, 2);
     {
-        InsereVetor dlg(b.p);
+        InsereVetor dlg(b.p, b.p.module2);
         dlg.ativa();
     }
     const QStringList apostas = b.apostasBanco();
@@ -308,10 +308,10 @@ TEST(InsereVetor, SegundoBlocoSemLimparRecomecaEm00001) {
 }
 
 TEST(InsereVetor, NumeracaoPassaDe99999EmSeisDigitos) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 25);
     gera(b, 6); // 177100 bets
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const DocumentoRico& doc = b.p.tela.TxtBanco;
     const int64_t i = doc.texto().indexOf(QStringLiteral("\r\n100000)   ")) + 2;
@@ -323,12 +323,12 @@ TEST(InsereVetor, NumeracaoPassaDe99999EmSeisDigitos) {
 }
 
 TEST(InsereVetor, TrabalhaUmaSoVezEEncolheVetRes) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 6);
     gera(b, 5);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     int fechou = 0;
-    dlg.aoFechar = [&] { ++fechou; };
+    dlg.aoFechar.liga([&] { ++fechou; });
     dlg.ativa();
     EXPECT_EQ(fechou, 1);
     EXPECT_EQ(b.p.e.VetRes.ultimaLinha(), 1);
@@ -342,11 +342,11 @@ TEST(InsereVetor, TrabalhaUmaSoVezEEncolheVetRes) {
 }
 
 TEST(InsereVetor, ApostaAlemDe81NumerosPerdeOsDeTrasEAMarcaDeFim) {
-    Bancada b(QStringLiteral("Lotomania"));
+    ProgramaTeste b(QStringLiteral("Lotomania"));
     b.marcaFaixa(0, 79);
     b.fixa({90, 91, 92, 93, 94});
     gera(b, 80);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const QStringList n = numeros(b.apostasBanco().value(0));
     EXPECT_EQ(n.size(), 85);
@@ -357,23 +357,23 @@ TEST(InsereVetor, ApostaAlemDe81NumerosPerdeOsDeTrasEAMarcaDeFim) {
 }
 
 TEST(InsereVetor, CabecalhoTrazOHistorico) {
-    Bancada b;
+    ProgramaTeste b;
     b.marcaFaixa(1, 6);
     b.p.e.Historico = QStringLiteral("linha 1\r\nlinha 2\r\n");
     gera(b, 6);
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().startsWith(
         QStringLiteral("Dezenas escolhidas: 01 02 03 04 05 06 \r\nlinha 1\r\nlinha 2\r\n\r\n00001)   ")));
 }
 
 TEST(InsereVetor, ApostasDeUmFechamentoLotofacilDuqueTemQuinzeSemZero) {
-    Bancada b(QStringLiteral("Lotofácil"));
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
     b.marca({3, 17});
     gera(b, 2, true);
     for (int i = 0; i < 40; ++i)
         b.d.aleatorio.enfileira(0.0f); // all drawn again
-    InsereVetor dlg(b.p);
+    InsereVetor dlg(b.p, b.p.module2);
     dlg.ativa();
     const QStringList n = numeros(b.apostasBanco().value(0));
     EXPECT_EQ(n.size(), 15);

@@ -1,8 +1,8 @@
 #include "core/BancoApostas.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/JogoAJogo.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

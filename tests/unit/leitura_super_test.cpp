@@ -2,7 +2,7 @@
 // file and code, the key, its first occurrence and the reading of a block.
 #include "ApoioSuper.h"
 #include "core/Module1.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "programa_teste.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -250,22 +250,20 @@ TEST_F(Loteria, CancelarNaPerguntaDeSalvarMantemOJogoMasPerdeONomeDoArquivo) {
 
 TEST_F(Loteria, SimNaPerguntaDeSalvarSalvaETroca) {
     umaAposta(p);
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Sim);
     TrocaLoteria(p, QStringLiteral("Quina"));
-    EXPECT_EQ(salvou, 1);
+    EXPECT_EQ(salvamento.vezes(), 1);
     EXPECT_EQ(p.e.NomeLoteria, QStringLiteral("QUINA"));
     EXPECT_EQ(p.e.QuantBan, 0);
 }
 
 TEST_F(Loteria, NaoNaPerguntaDeSalvarTrocaSemSalvar) {
     umaAposta(p);
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Nao);
     TrocaLoteria(p, QStringLiteral("Quina"));
-    EXPECT_EQ(salvou, 0);
+    EXPECT_EQ(salvamento.vezes(), 0);
     EXPECT_EQ(p.e.NomeLoteria, QStringLiteral("QUINA"));
     EXPECT_TRUE(p.tela.MenuQuina);
 }

@@ -1,8 +1,9 @@
-#include "core/MatrizTexto.h"
+#include "base/MatrizTexto.h"
 
 #include <QStringList>
 
-#include "imprime_qt.h"
+#include "apoio/Falha.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,7 @@
 using namespace sorvelo;
 
 namespace {
-template <typename F> int falhaDe(F f) {
-    try {
-        f();
-    } catch (const FalhaExecucao& falha) {
-        return falha.numero();
-    }
-    return 0;
-}
+using teste::falhaDe;
 
 MatrizTexto banco(int64_t ultimaLinha) {
     MatrizTexto m;

@@ -1,7 +1,7 @@
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/Ajuda.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -241,11 +241,14 @@ namespace {
 struct Topicos : ::testing::Test, ProgramaTeste {
     int mostradas = 0;
     std::vector<int> paginas;
-    std::function<void()> mostraHelp = [this] {
-        ++mostradas;
-        paginas.push_back(
-            MontaPaginaHelp(p.e.TopicoHelp.valor()).titulo.isEmpty() ? -1 : int(p.e.TopicoHelp.valor()));
-    };
+    Topicos() {
+        d.dialogos.quando(Dialogo::Help, [this] {
+            ++mostradas;
+            paginas.push_back(MontaPaginaHelp(p.e.TopicoHelp.valor()).titulo.isEmpty()
+                                  ? -1
+                                  : int(p.e.TopicoHelp.valor()));
+        });
+    }
 };
 } // namespace
 
@@ -265,24 +268,24 @@ TEST_F(Topicos, OsOitoTopicos) {
 
 TEST_F(Topicos, CadaTopicoAbreAPaginaAnterior) {
     for (int i = 1; i < QuantTopicos; ++i)
-        AbreTopico(p, i, mostraHelp);
+        AbreTopico(p, i);
     EXPECT_EQ(paginas, (std::vector<int>{0, 1, 2, 3, 4, 5, 6}));
     EXPECT_TRUE(d.abridor.abertos.isEmpty());
 }
 
 TEST_F(Topicos, APagina7NaoSeAlcancaPelosTopicos) {
     for (int i = 0; i < QuantTopicos; ++i)
-        AbreTopico(p, i, mostraHelp);
+        AbreTopico(p, i);
     EXPECT_EQ(std::count(paginas.begin(), paginas.end(), 7), 0);
     EXPECT_EQ(mostradas, 7);
     // Only its picture on the main window opens it.
-    ClicaHelpRotina(p, 7, mostraHelp);
+    ClicaHelpRotina(p, 7);
     EXPECT_EQ(paginas.back(), 7);
     EXPECT_EQ(MontaPaginaHelp(7).titulo, QStringLiteral("Fixar números"));
 }
 
 TEST_F(Topicos, OsNomesDosTopicosDiferemDosTitulos) {
-    AbreTopico(p, 3, mostraHelp);
+    AbreTopico(p, 3);
     EXPECT_EQ(TextoTopico(3), QStringLiteral("Sorteio de apostas"));
     EXPECT_EQ(MontaPaginaHelp(p.e.TopicoHelp.valor()).titulo,
               QStringLiteral("Sortear apostas pelo computador"));
@@ -291,7 +294,7 @@ TEST_F(Topicos, OsNomesDosTopicosDiferemDosTitulos) {
 TEST_F(Topicos, TutorialAbrePeloDesktopAoLadoDoPrograma) {
     d.pasta.define(QStringLiteral("/opt/sorvelo"));
     const int16_t antes = p.e.TopicoHelp.valor();
-    AbreTopico(p, 0, mostraHelp);
+    AbreTopico(p, 0);
     EXPECT_EQ(d.abridor.abertos, QStringList{QStringLiteral("/opt/sorvelo/Sorvelo.doc")});
     EXPECT_EQ(mostradas, 0);
     EXPECT_EQ(p.e.TopicoHelp.valor(), antes);
@@ -299,16 +302,16 @@ TEST_F(Topicos, TutorialAbrePeloDesktopAoLadoDoPrograma) {
 
 TEST_F(Topicos, TutorialQueFaltaNaoDaMensagem) {
     d.pasta.define(QStringLiteral("/pasta/que/nao/existe"));
-    AbreTopico(p, 0, mostraHelp);
+    AbreTopico(p, 0);
     EXPECT_EQ(d.abridor.abertos.size(), 1);
     EXPECT_TRUE(d.caixa.vistas().empty());
 }
 
 TEST_F(Topicos, HelpRotinaAbreSuaPagina) {
     for (int k = 0; k < 8; ++k)
-        ClicaHelpRotina(p, k, mostraHelp);
+        ClicaHelpRotina(p, k);
     EXPECT_EQ(paginas, (std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7}));
-    EXPECT_EQ(falhaDe([&] { ClicaHelpRotina(p, 8, mostraHelp); }), 340);
+    EXPECT_EQ(falhaDe([&] { ClicaHelpRotina(p, 8); }), 340);
 }
 
 // ---- The page form ----

@@ -1,4 +1,4 @@
-#include "apoio_conferencia.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/Pontuacao.h"
 #include "relatorios/PontuacaoRapida.h"
 
@@ -8,7 +8,7 @@
 #include <random>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 
 namespace {
 
@@ -36,21 +36,21 @@ int rapido(const Programa& p, int linha) {
 } // namespace
 
 TEST(CarregaVetDezEsc, LeAsCelulasAzuisEmOrdemDaGradeComFimAtras) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({9, 2, 60, 33});
     CarregaVetDezEsc(a.p);
     EXPECT_EQ(sorteio(a.p.e.VetDezenas), (QStringList{"02", "09", "33", "60", "#"}));
 }
 
 TEST(CarregaVetDezEsc, NadaMarcadoDeixaSoOFimNaPrimeiraEntrada) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.p.e.VetDezenas(0) = QStringLiteral("07");
     CarregaVetDezEsc(a.p);
     EXPECT_EQ(a.p.e.VetDezenas(0), QStringLiteral("#"));
 }
 
 TEST(CarregaVetDezEsc, CelulaVermelhaNaoEntraNoResultado) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({1, 2});
     a.marca({3}, true);
     CarregaVetDezEsc(a.p);
@@ -58,7 +58,7 @@ TEST(CarregaVetDezEsc, CelulaVermelhaNaoEntraNoResultado) {
 }
 
 TEST(CarregaVetDezEsc, LotomaniaNaoLeAsCelulasDe80a99) {
-    Ambiente a(QStringLiteral("Lotomania"));
+    ProgramaTeste a(QStringLiteral("Lotomania"));
     a.marca({0, 5, 10, 15, 20, 25, 30, 35, 40, 45, 50, 55, 60, 65, 79, 80, 85, 90, 95, 99});
     EXPECT_EQ(ContaNumeros(a.p), 20);
     CarregaVetDezEsc(a.p);
@@ -79,7 +79,7 @@ TEST(CarregaVetDezEsc, LotomaniaNaoLeAsCelulasDe80a99) {
 }
 
 TEST(CarregaVetDezEsc, MarcaTodasAsCelulasSemOlharOTamanhoDoSorteio) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({1, 2, 3, 4, 5, 6, 7, 8, 9});
     CarregaVetDezEsc(a.p);
     EXPECT_EQ(sorteio(a.p.e.VetDezenas).size(), 10);
@@ -89,7 +89,7 @@ TEST(CarregaVetDezEsc, MarcaTodasAsCelulasSemOlharOTamanhoDoSorteio) {
 }
 
 TEST(CarregaVetDezEsc, CelulaEmBrancoMarcadaEntraComTextoVazio) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({5});
     ClicaNumero(a.p, 60); // the blank cell right after "60"
     CarregaVetDezEsc(a.p);
@@ -97,7 +97,7 @@ TEST(CarregaVetDezEsc, CelulaEmBrancoMarcadaEntraComTextoVazio) {
 }
 
 TEST(RetPontos, ContaOsAcertosQualquerQueSejaAOrdem) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({9, 1, 8, 2, 7, 3});
     CarregaVetDezEsc(a.p);
     a.aposta({1, 2, 3, 4, 5, 6});
@@ -115,7 +115,7 @@ TEST(RetPontos, ContaOsAcertosQualquerQueSejaAOrdem) {
 }
 
 TEST(RetPontos, NadaMarcadoDaZeroATodasAsLinhas) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     CarregaVetDezEsc(a.p);
     a.aposta({1, 2, 3, 4, 5, 6});
     a.aposta({7, 8, 9, 10, 11, 12});
@@ -125,7 +125,7 @@ TEST(RetPontos, NadaMarcadoDaZeroATodasAsLinhas) {
 }
 
 TEST(RetPontos, NumeroVermelhoDaApostaNaoPontua) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({1, 2});
     a.marca({3}, true);
     CarregaNumeros(a.p);
@@ -137,7 +137,7 @@ TEST(RetPontos, NumeroVermelhoDaApostaNaoPontua) {
 }
 
 TEST(RetPontos, LinhaSoComFimDaZero) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.marca({1, 2, 3});
     CarregaVetDezEsc(a.p);
     InsereApostaMarcada(a.p); // a row of the three numbers
@@ -150,7 +150,7 @@ TEST(RetPontos, LinhaSoComFimDaZero) {
 }
 
 TEST(RetPontos, ComparaTextosENaoNumeros) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas, {"05", "", "7", "#"});
     a.aposta(QStringList{"5", "07", "7"});
     a.aposta(QStringList{"05", ""});
@@ -161,7 +161,7 @@ TEST(RetPontos, ComparaTextosENaoNumeros) {
 }
 
 TEST(RetPontos, NumeroRepetidoContaUmaVezPorPar) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas, {"05", "06", "05", "#"});
     a.aposta(QStringList{"05", "05", "06"});
     a.aposta({5, 9});
@@ -174,7 +174,7 @@ TEST(RetPontos, NumeroRepetidoContaUmaVezPorPar) {
 }
 
 TEST(RetPontos, SorteioSemFimLeAs80PrimeirasEntradas) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     for (int k = 0; k <= 81; ++k)
         a.p.e.VetDezenas(k) = formata00(k);
     a.aposta({0, 79, 80, 81});
@@ -183,7 +183,7 @@ TEST(RetPontos, SorteioSemFimLeAs80PrimeirasEntradas) {
 }
 
 TEST(RetPontos, LinhaSemFimSaiDaLinhaComFalha9) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas, {"01", "#"});
     QStringList cheia;
     for (int c = 0; c <= 81; ++c)
@@ -205,7 +205,7 @@ TEST(RetPontos, LinhaSemFimSaiDaLinhaComFalha9) {
 }
 
 TEST(RetPontos2, ContaContraOSorteioDeTeste) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas, {"01", "#"});
     defineSorteio(a.p.e.VetDezenas2, {"04", "02", "03", "#"});
     a.aposta({1, 2, 3, 4});
@@ -216,7 +216,7 @@ TEST(RetPontos2, ContaContraOSorteioDeTeste) {
 }
 
 TEST(RetApostaVetBan, CadaNumeroSeguidoDeUmBrancoAteOFim) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.aposta({1, 2, 3, 4, 5, 6});
     a.aposta(QStringList{});
     EXPECT_EQ(RetApostaVetBan(a.p, 0), QStringLiteral("01 02 03 04 05 06 "));
@@ -224,7 +224,7 @@ TEST(RetApostaVetBan, CadaNumeroSeguidoDeUmBrancoAteOFim) {
 }
 
 TEST(TestaRepVAleat, ContadorZeroNaoOlhaOVetor) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     a.p.e.VetDezenas2(0) = QStringLiteral("07");
     EXPECT_FALSE(TestaRepVAleat(a.p, 0, 7));
     EXPECT_FALSE(TestaRepVAleat(a.p, -3, 7));
@@ -232,7 +232,7 @@ TEST(TestaRepVAleat, ContadorZeroNaoOlhaOVetor) {
 }
 
 TEST(TestaRepVAleat, ComparaComoNumeroEOlhaOContadorNaoOFim) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas2, {"#", "9", "12"});
     EXPECT_TRUE(TestaRepVAleat(a.p, 2, 9));
     EXPECT_FALSE(TestaRepVAleat(a.p, 2, 12));
@@ -310,7 +310,7 @@ TEST(PontuacaoRapida, DaOMesmoQueAComparacaoDeTextosEmBancosAleatorios) {
     std::mt19937 g(20261122);
     int irregulares = 0, regulares = 0, comPontos = 0;
     for (int rodada = 0; rodada < 40; ++rodada) {
-        Ambiente a;
+        ProgramaTeste a(QStringLiteral("Mega-Sena"));
         const int maxNumero = rodada % 2 ? 99 : 60;
         const int quant = 300 + rodada * 37;
         for (int i = 0; i < quant; ++i)
@@ -346,7 +346,7 @@ TEST(PontuacaoRapida, DaOMesmoQueAComparacaoDeTextosEmBancosAleatorios) {
 }
 
 TEST(PontuacaoRapida, PontuadorSaltaParaQualquerLinhaEForaDoBanco) {
-    Ambiente a;
+    ProgramaTeste a(QStringLiteral("Mega-Sena"));
     defineSorteio(a.p.e.VetDezenas, {"01", "02", "#"});
     for (int i = 0; i < 9000; ++i)
         a.aposta({1 + i % 3, 10});

@@ -1,14 +1,14 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
-#include "programa_teste.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -313,8 +313,7 @@ struct Fechamento : Principal {
 
 TEST_F(Fechamento, BancoAlteradoPerguntaSimNaoSemCancelar) {
     InsereApostaMarcada(p);
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Sim);
     FechaPrincipal(p);
     ASSERT_EQ(d.caixa.vistas().size(), 1u);
@@ -323,17 +322,16 @@ TEST_F(Fechamento, BancoAlteradoPerguntaSimNaoSemCancelar) {
     EXPECT_EQ(v.texto, QStringLiteral("Deseja salvar as apostas atuais?"));
     EXPECT_EQ(v.botoes, Botoes::SimNao);
     EXPECT_EQ(v.padrao, Resposta::Sim);
-    EXPECT_EQ(salvou, 1);
+    EXPECT_EQ(salvamento.vezes(), 1);
 }
 
 TEST_F(Fechamento, NaoFechaSemSalvar) {
     InsereApostaMarcada(p);
-    int salvou = 0;
-    p.salvarArquivo = [&](Programa&) { ++salvou; };
+    SalvamentoVigiado salvamento(*this);
     d.caixa.responde(Resposta::Nao);
     FechaPrincipal(p);
     EXPECT_EQ(d.caixa.vistas().size(), 1u);
-    EXPECT_EQ(salvou, 0);
+    EXPECT_EQ(salvamento.vezes(), 0);
 }
 
 TEST_F(Fechamento, BancoVazioNaoPergunta) {

@@ -3,7 +3,7 @@
 // random cases.
 #include "ReducaoReferencia.h"
 #include "combinacoes/Reducao.h"
-#include "core/MatrizTexto.h"
+#include "base/MatrizTexto.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "apoio_conferencia.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/RelBanco.h"
 
 #include <gtest/gtest.h>
@@ -8,16 +8,16 @@
 #include <random>
 
 using namespace sorvelo;
-using sorvelo::teste::Ambiente;
+using sorvelo::teste::ProgramaTeste;
 using sorvelo::teste::falhaDe;
 
 namespace {
 
 const QStringList FontesTela = {"Arial", "Courier New", "DejaVu Sans", "Liberation Mono", "Última"};
 
-struct Listagem : Ambiente {
+struct Listagem : ProgramaTeste {
     std::unique_ptr<RelBanco> forma;
-    explicit Listagem(const QString& jogo = QStringLiteral("Mega-Sena")) : Ambiente(jogo) {}
+    explicit Listagem(const QString& jogo = QStringLiteral("Mega-Sena")) : ProgramaTeste(jogo) {}
     // Load and the first activation, as the form shows it.
     const QString& abre(const QStringList& fontes = FontesTela) {
         forma = std::make_unique<RelBanco>(p);

@@ -250,7 +250,7 @@ TEST(RtfLeitura, ALeituraEUmaSoMudancaDoConteudo) {
     DocumentoRico d;
     d.acrescenta(u("antigo"), 5);
     int mudancas = 0;
-    d.aoMudar = [&] { ++mudancas; };
+    d.aoMudar.liga([&] { ++mudancas; });
     leRtf(escreveRtf(bancoExemplo()), d);
     EXPECT_EQ(d.texto(), bancoExemplo().texto());
     EXPECT_GE(mudancas, 1);

@@ -1,6 +1,7 @@
-#include "core/Semantica.h"
+#include "base/Semantica.h"
 
-#include "imprime_qt.h"
+#include "apoio/Falha.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 
@@ -11,14 +12,7 @@ using namespace sorvelo;
 
 namespace {
 // Runs f and returns the number of the run-time failure it raised (0: none).
-template <typename F> int falhaDe(F f) {
-    try {
-        f();
-    } catch (const FalhaExecucao& falha) {
-        return falha.numero();
-    }
-    return 0;
-}
+using teste::falhaDe;
 } // namespace
 
 // ---- Conversion at the nearest whole number ----

@@ -1,8 +1,8 @@
 #include "core/Principal.h"
 #include "core/SistemaOperacional.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <gtest/gtest.h>
 

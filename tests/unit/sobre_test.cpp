@@ -1,7 +1,7 @@
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/Sobre.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <QUrl>
 

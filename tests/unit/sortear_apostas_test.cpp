@@ -2,8 +2,8 @@
 #include "core/Loteria.h"
 #include "edicao/Sortear.h"
 #include "edicao/SortearFormato.h"
-#include "imprime_qt.h"
-#include "programa_teste.h"
+#include "apoio/ImprimeQt.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 
@@ -88,7 +88,7 @@ TEST_F(SortearApostas, BarrasEscrevemOValorComDoisDigitos) {
 TEST_F(SortearApostas, OkSorteiaEFechaCancelarSoFecha) {
     auto s = abre(QStringLiteral("2"), QStringLiteral("6"));
     int fechou = 0;
-    s->aoFechar = [&] { ++fechou; };
+    Ligacao vigiaFecho(s->aoFechar, [&] { ++fechou; });
     s->BtnOK();
     EXPECT_EQ(p.e.QuantBan, 2);
     EXPECT_FALSE(s->aberto());

@@ -1,8 +1,8 @@
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "edicao/SortComb.h"
-#include "imprime_qt.h"
-#include "programa_teste.h"
+#include "apoio/ImprimeQt.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // hand-over to the bank, with tables written by the tests into a temporary
 // program folder.
 #include "ApoioSuper.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 

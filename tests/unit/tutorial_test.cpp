@@ -3,7 +3,7 @@
 #include "core/Rtf.h"
 #include "platform/DocumentoRico.h"
 
-#include "imprime_qt.h"
+#include "apoio/ImprimeQt.h"
 
 #include <QDir>
 #include <QFile>

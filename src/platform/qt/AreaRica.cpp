@@ -1,4 +1,4 @@
-#include "AreaRica.h"
+#include "platform/qt/AreaRica.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -6,7 +6,7 @@
 // the text before it.
 #pragma once
 
-#include "../DocumentoRico.h"
+#include "platform/DocumentoRico.h"
 
 #include <QAbstractScrollArea>
 #include <QFont>

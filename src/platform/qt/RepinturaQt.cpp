@@ -1,10 +1,11 @@
-#include "RepinturaQt.h"
+#include "platform/qt/RepinturaQt.h"
 
 namespace sorvelo {
 
 void RepinturaQt::repinta(const std::function<void()>& pinta, bool sempre) {
-    if (!sempre && desde_.isValid() && desde_.elapsed() < intervaloMs_) return;
-    desde_.start();
+    const int64_t agora = agoraMs_();
+    if (!sempre && ultima_ >= 0 && agora - ultima_ < intervaloMs_) return;
+    ultima_ = agora;
     ++feitas_;
     if (pinta) pinta();
 }

@@ -1,7 +1,9 @@
-#include "ServicosQt.h"
+#include "platform/qt/ServicosQt.h"
 
-#include "../Atividade.h"
-#include "core/Semantica.h"
+#include "platform/qt/Vista.h"
+
+#include "base/Semantica.h"
+#include "platform/Atividade.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -21,6 +23,8 @@
 #include <QTranslator>
 #include <QUrl>
 
+#include <chrono>
+
 namespace sorvelo {
 
 namespace {
@@ -36,6 +40,7 @@ QString linhas(QString texto) {
 }
 
 void caixaSimples(QMessageBox::Icon icone, const QString& texto) {
+    atualizaVistas();
     QMessageBox caixa(icone, Titulo, linhas(texto), QMessageBox::Ok, janelaAtiva());
     EmModal modal;
     caixa.exec();
@@ -60,6 +65,7 @@ Resposta CaixaMensagemQt::pergunta(const QString& texto, Botoes botoes, Resposta
                            : padrao == Resposta::Cancelar ? QMessageBox::Cancel
                                                           : QMessageBox::Yes);
     if (botoes == Botoes::SimNao) caixa.setEscapeButton(QMessageBox::No);
+    atualizaVistas();
     EmModal modal;
     switch (caixa.exec()) {
     case QMessageBox::Yes:
@@ -85,12 +91,14 @@ QString DialogoArquivoQt::filtroQt(const QString& filtro) {
 }
 
 QString DialogoArquivoQt::abrir(const QString& titulo, const QString& filtro) {
+    atualizaVistas();
     EmModal modal;
     return QFileDialog::getOpenFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro));
 }
 
 QString DialogoArquivoQt::salvar(const QString& titulo, const QString& filtro) {
     // The overwrite question belongs to the program, not to the dialog.
+    atualizaVistas();
     EmModal modal;
     return QFileDialog::getSaveFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro), nullptr,
                                         QFileDialog::DontConfirmOverwrite);
@@ -235,10 +243,20 @@ void ImpressoraQt::fim() {
     }
 }
 
+RelogioMs relogioMonotonico() {
+    return [] {
+        static const auto inicio = std::chrono::steady_clock::now();
+        return int64_t(
+            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - inicio)
+                .count());
+    };
+}
+
 void CedenciaQt::cede() {
-    if (desde_.isValid() && desde_.elapsed() < intervaloMs_) return;
+    if (ultima_ >= 0 && agoraMs_() - ultima_ < intervaloMs_) return;
+    atualizaVistas();
     QCoreApplication::processEvents();
-    desde_.start();
+    ultima_ = agoraMs_();
 }
 
 void AbridorQt::abre(const QString& endereco) {

@@ -1,7 +1,7 @@
 // The desktop implementations of the services.
 #pragma once
 
-#include "../Servicos.h"
+#include "platform/Servicos.h"
 
 #include <QElapsedTimer>
 #include <QString>
@@ -68,14 +68,22 @@ public:
 // Runs the message loop when some milliseconds have passed since it last
 // ran: the dialogs stay responsive while a loop of millions of yields pays
 // for a clock read on most of them.
+// A monotonic clock in milliseconds (tests give one of their own).
+using RelogioMs = std::function<int64_t()>;
+RelogioMs relogioMonotonico();
+
+// The yield to the message loop: it runs the loop at most every
+// `intervaloMs`, after bringing every form up to date.
 class CedenciaQt : public Cedencia {
 public:
-    explicit CedenciaQt(int intervaloMs = 10) : intervaloMs_(intervaloMs) {}
+    explicit CedenciaQt(int intervaloMs = 10, RelogioMs agoraMs = relogioMonotonico())
+        : intervaloMs_(intervaloMs), agoraMs_(std::move(agoraMs)) {}
     void cede() override;
 
 private:
     int intervaloMs_;
-    QElapsedTimer desde_;
+    RelogioMs agoraMs_;
+    int64_t ultima_ = -1; // when the loop last ran
 };
 
 class AbridorQt : public Abridor {

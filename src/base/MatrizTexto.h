@@ -4,7 +4,7 @@
 // empty, "#" or a two-digit number takes one byte.
 #pragma once
 
-#include "Semantica.h"
+#include "base/Semantica.h"
 
 #include <QString>
 

@@ -1,7 +1,9 @@
-#include "Ajuda.h"
+#include "forms/Help.h"
 
-#include "Controles.h"
-#include "Ilustracoes.h"
+#include "forms/Janelas.h"
+
+#include "forms/Controles.h"
+#include "forms/Ilustracoes.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -19,6 +21,7 @@ QColor qcor(Cor c) {
 
 JanelaHelp::JanelaHelp(Programa& p, QWidget* pai)
     : Formulario(p, "Help", QStringLiteral("Sorvelo"), pai), h_(p) {
+    ligaLogica(h_);
     QPalette amarelo = palette();
     amarelo.setColor(QPalette::Window, qcor(CorFundoAjuda));
     amarelo.setColor(QPalette::Base, qcor(CorFundoAjuda));
@@ -53,13 +56,12 @@ JanelaHelp::JanelaHelp(Programa& p, QWidget* pai)
     txtComando_->setFocus();
 }
 
-void JanelaHelp::sincroniza() {
+void JanelaHelp::atualizaTela() {
     findChild<QLabel*>(QStringLiteral("LblTitulo"))->setText(h_.LblTitulo);
     // The page is plain text in the widget's own line ends.
     QString texto = h_.RTFHelp.texto();
     texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     if (rtfHelp_->toPlainText() != texto) rtfHelp_->setPlainText(texto);
-    if (h_.fechada() && isVisible()) close();
 }
 
 bool JanelaHelp::eventFilter(QObject* alvo, QEvent* e) {
@@ -90,35 +92,8 @@ bool JanelaHelp::eventFilter(QObject* alvo, QEvent* e) {
     return Formulario::eventFilter(alvo, e);
 }
 
-JanelaTopicos::JanelaTopicos(Programa& p, std::function<void()> mostraHelp, QWidget* pai)
-    : Formulario(p, "Topicos", QStringLiteral("Sorvelo - Tópicos da ajuda"), pai),
-      mostraHelp_(std::move(mostraHelp)) {
-    QLabel* l1 = rotulo(QStringLiteral("Tópicos da ajuda"), 240, 180, 4800, 375, "Label1");
-    QFont grande(QStringLiteral("Arial"), 12);
-    grande.setBold(true);
-    l1->setFont(grande);
-    rotulo(QStringLiteral("Clique em um dos tópicos abaixo para obter ajuda:"), 240, 660, 4800, 255,
-           "Label2");
-    const QPixmap livro = desenhaLivro(tw(240));
-    for (int i = 0; i < QuantTopicos; ++i) {
-        const int y = 1080 + i * 360;
-        const QByteArray nomeBook = "Book(" + QByteArray::number(i) + ")";
-        const QByteArray nomeLbl = "LblHelp(" + QByteArray::number(i) + ")";
-        auto* book = poe(new Figura, this, nomeBook.constData(), 360, y, 240, 240);
-        book->setPixmap(livro);
-        book->setCursor(Qt::PointingHandCursor);
-        auto* lbl = poe(new Figura(TextoTopico(i)), this, nomeLbl.constData(), 720, y, 3960, 255);
-        QFont sublinhado = lbl->font();
-        sublinhado.setUnderline(true);
-        lbl->setFont(sublinhado);
-        lbl->setStyleSheet(QStringLiteral("color: rgb(0, 0, 160);"));
-        lbl->setCursor(Qt::PointingHandCursor);
-        for (Figura* f : {book, lbl})
-            liga(f, &Figura::clicked, [this, i] { AbreTopico(p_, i, mostraHelp_); });
-    }
-    auto* fechar = poe(new QPushButton(QStringLiteral("Fechar")), this, "BtnFechar", 3480, 4080, 1215, 375);
-    connect(fechar, &QPushButton::clicked, this, &QWidget::close);
-    tamanho(4920, 4620);
+void mostraJanelaHelp(Programa& p, QWidget* pai) {
+    JanelaHelp(p, pai).mostraModal();
 }
 
 } // namespace sorvelo

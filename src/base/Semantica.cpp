@@ -1,4 +1,4 @@
-#include "Semantica.h"
+#include "base/Semantica.h"
 
 #include <cfenv>
 #include <cmath>

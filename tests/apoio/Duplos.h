@@ -3,12 +3,15 @@
 // and answered with its default button.
 #pragma once
 
-#include "Servicos.h"
+#include "platform/Dialogos.h"
+#include "platform/Servicos.h"
 
 #include <QStringList>
 
+#include <algorithm>
 #include <deque>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace sorvelo {
@@ -132,6 +135,26 @@ private:
     QString caminho_;
 };
 
+// The dialogs as a test scripts them: each request is recorded; a dialog
+// given a script runs it (it drives the dialog's logic as a person would),
+// one without a script is only recorded.
+class DialogosRoteirizados : public Dialogos {
+public:
+    void mostra(Dialogo d) override {
+        pedidos.push_back(d);
+        auto it = roteiros_.find(d);
+        if (it != roteiros_.end()) it->second();
+    }
+    // What the person does while dialog d is up (it replaces an earlier script).
+    void quando(Dialogo d, std::function<void()> roteiro) { roteiros_[d] = std::move(roteiro); }
+    // How many times d was asked for.
+    int vezes(Dialogo d) const { return int(std::count(pedidos.begin(), pedidos.end(), d)); }
+    std::vector<Dialogo> pedidos;
+
+private:
+    std::map<Dialogo, std::function<void()>> roteiros_;
+};
+
 // A complete set of doubles, ready to hand to a Programa.
 struct ServicosDuplos {
     CaixaRoteirizada caixa;
@@ -142,8 +165,17 @@ struct ServicosDuplos {
     CedenciaContada cedencia;
     AbridorRegistro abridor;
     PastaFixa pasta;
+    DialogosRoteirizados dialogos;
     Servicos servicos() {
         return {&caixa, &dialogo, &impressora, &aleatorio, &relogio, &cedencia, &abridor, &pasta};
+    }
+    // The set with the yield (and the printer) of another kind, for a
+    // Programa made with them.
+    Servicos servicos(Cedencia* outraCedencia, Impressora* outraImpressora = nullptr) {
+        Servicos s = servicos();
+        if (outraCedencia) s.cedencia = outraCedencia;
+        if (outraImpressora) s.impressora = outraImpressora;
+        return s;
     }
 };
 

@@ -1,4 +1,4 @@
-#include "MatrizTexto.h"
+#include "base/MatrizTexto.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "Duplos.h"
+#include "apoio/Duplos.h"
 
 namespace sorvelo {
 
