@@ -10,6 +10,7 @@
 #include "Eliminar.h"
 #include "Estatisticas.h"
 #include "Filtrar.h"
+#include "Importar.h"
 #include "JogoAJogo.h"
 #include "Protecao.h"
 #include "RelBanco.h"
@@ -25,6 +26,7 @@
 #include "edicao/Sortear.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
+#include "relatorios/Exportar.h"
 #include "relatorios/Sobre.h"
 
 #include <QApplication>
@@ -223,6 +225,9 @@ void Sorvelo::montaMenus() {
     QAction* sair = arquivo->addAction(QStringLiteral("Sair"));
     sair->setObjectName(QStringLiteral("MenuSair"));
     connect(sair, &QAction::triggered, this, &QWidget::close);
+    arquivo->addSeparator()->setObjectName(QStringLiteral("TracoImportar"));
+    item(arquivo, "MenuImportar", QStringLiteral("Importar apostas..."), [this] { mostraImportar(p_, this); });
+    item(arquivo, "MenuExportar", QStringLiteral("Exportar banco..."), [this] { ExportarBanco(p_); });
 
     QMenu* loterias = menu("MenuLoterias", QStringLiteral("&Loterias"));
     auto jogo = [&](const char* nome, int k) {

@@ -74,6 +74,7 @@ Transcrição (uma linha cada, UTF-8):
   C: visível habilitado marcado  ·  forma Nome "Título" modal|não modal  ·  fecha Nome
   arquivo abrir|salvar "título" "filtro" / resposta "caminho"|cancela
   impressora fonte "Arial" 10 · impressora "texto" · impressora fim · abre "endereço"
+  impressora arquivo pdf (o trabalho vai para um arquivo, não para a impressora)
   confere C: esperado "x", obtido "y"  ·  falha 9 "Subscrito fora do intervalo"
   erro linha N: motivo
 )";
