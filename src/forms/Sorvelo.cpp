@@ -226,7 +226,8 @@ void Sorvelo::montaMenus() {
     sair->setObjectName(QStringLiteral("MenuSair"));
     connect(sair, &QAction::triggered, this, &QWidget::close);
     arquivo->addSeparator()->setObjectName(QStringLiteral("TracoImportar"));
-    item(arquivo, "MenuImportar", QStringLiteral("Importar apostas..."), [this] { mostraImportar(p_, this); });
+    item(arquivo, "MenuImportar", QStringLiteral("Importar apostas..."),
+         [this] { mostraImportar(p_, this); });
     item(arquivo, "MenuExportar", QStringLiteral("Exportar banco..."), [this] { ExportarBanco(p_); });
 
     QMenu* loterias = menu("MenuLoterias", QStringLiteral("&Loterias"));
