@@ -45,39 +45,54 @@ LeitorApostas::LeitorApostas(int numIni, int numFim)
 }
 
 void LeitorApostas::le(const char* dados, size_t tamanho) {
-    for (size_t i = 0; i < tamanho && !parou(); ++i) {
-        const char c = dados[i];
-        if (inicioArquivo_) {
-            if (bomLido_ < 3 && static_cast<unsigned char>(c) == Bom[bomLido_]) {
-                ++bomLido_;
-                if (bomLido_ == 3) inicioArquivo_ = false;
+    size_t i = 0;
+    // The byte-order mark, which may come split across pieces.
+    while (inicioArquivo_ && i < tamanho) {
+        if (bomLido_ < 3 && static_cast<unsigned char>(dados[i]) == Bom[bomLido_]) {
+            ++bomLido_;
+            ++i;
+            if (bomLido_ == 3) inicioArquivo_ = false;
+            continue;
+        }
+        inicioArquivo_ = false;
+        // A partial mark was content after all.
+        for (int k = 0; k < bomLido_; ++k)
+            linhaAtual_.push_back(char(Bom[k]));
+    }
+    while (i < tamanho && !parou()) {
+        if (crAnterior_) {
+            crAnterior_ = false;
+            if (dados[i] == '\n') {
+                ++i;
                 continue;
             }
-            inicioArquivo_ = false;
-            // A partial mark was content after all.
-            for (int k = 0; k < bomLido_; ++k)
-                linhaAtual_.push_back(char(Bom[k]));
         }
-        if (c == '\0') {
+        // The piece of the line up to its end, a null byte or the end of
+        // the bytes in hand.
+        size_t f = i;
+        while (f < tamanho && dados[f] != '\n' && dados[f] != '\r' && dados[f] != '\0')
+            ++f;
+        const size_t n = f - i;
+        const bool inteira = f < tamanho && dados[f] != '\0' && linhaAtual_.empty() && !linhaLonga_;
+        if (inteira && n <= size_t(MaxCaracteresLinha)) {
+            // A whole line within the bytes in hand: read where it stands.
+            ++linha_;
+            processaLinha(dados + i, int(n));
+        } else {
+            const size_t cabe =
+                size_t(MaxCaracteresLinha) - std::min(linhaAtual_.size(), size_t(MaxCaracteresLinha));
+            if (n > cabe) linhaLonga_ = true;
+            if (!linhaLonga_) linhaAtual_.insert(linhaAtual_.end(), dados + i, dados + f);
+            if (f < tamanho && dados[f] != '\0') fimDeLinha();
+        }
+        if (f == tamanho) break;
+        if (dados[f] == '\0') {
             erro_ = QStringLiteral("O arquivo não é um arquivo de texto (tem bytes nulos na linha %1).")
                         .arg(linha_ + 1);
             return;
         }
-        if (c == '\n' && crAnterior_) {
-            crAnterior_ = false;
-            continue;
-        }
-        crAnterior_ = c == '\r';
-        if (c == '\n' || c == '\r') {
-            fimDeLinha();
-            continue;
-        }
-        if (linhaLonga_) continue;
-        if (int(linhaAtual_.size()) >= MaxCaracteresLinha) {
-            linhaLonga_ = true;
-            continue;
-        }
-        linhaAtual_.push_back(c);
+        crAnterior_ = dados[f] == '\r';
+        i = f + 1;
     }
 }
 
