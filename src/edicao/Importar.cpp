@@ -75,8 +75,10 @@ QString LeArquivoApostas(const QString& caminho, LeitorApostas& leitor, Cedencia
 QString RelatorioImportacao(const LeitorApostas& leitor) {
     QString s;
     if (leitor.limiteAtingido())
-        s += QStringLiteral("A leitura parou na linha %1: o limite é de %2 apostas por importação.\r\n")
-                 .arg(milhares(leitor.linhasLidas()), milhares(LeitorApostas::MaxApostas));
+        s += QStringLiteral("A leitura parou na linha %1: uma importação traz no máximo %2 apostas e %3 "
+                            "números.\r\n")
+                 .arg(milhares(leitor.linhasLidas()), milhares(leitor.limiteApostas()),
+                      milhares(leitor.limiteNumeros()));
     s += QStringLiteral("Apostas válidas: %1\r\n").arg(milhares(leitor.quantApostas()));
     s += QStringLiteral("Linhas recusadas: %1\r\n").arg(milhares(leitor.quantRecusadas()));
     if (leitor.recusas().empty()) return s;

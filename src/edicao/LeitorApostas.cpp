@@ -223,7 +223,7 @@ void LeitorApostas::processaLinha(const char* s, int n) {
     inicios_.push_back(numeros_.size());
     for (int v = numIni_; v <= numFim_; ++v)
         if (vistos.test(size_t(v))) numeros_.push_back(uint8_t(v));
-    if (quantApostas() >= MaxApostas) limiteAtingido_ = true;
+    if (quantApostas() >= maxApostas_ || int64_t(numeros_.size()) >= maxNumeros_) limiteAtingido_ = true;
 }
 
 const uint8_t* LeitorApostas::aposta(int64_t i, int& quant) const {

@@ -20,16 +20,25 @@ struct Recusa {
 
 class LeitorApostas {
 public:
-    static constexpr int MaxNumeros = 81;           // numbers in one bet
-    static constexpr int MaxCaracteresLinha = 4096; // longer lines are refused
-    static constexpr int MaxRecusasGuardadas = 100; // reasons kept for the report
-    static constexpr int64_t MaxApostas = 5000000;  // valid bets read at most
+    static constexpr int MaxNumeros = 81;                // numbers in one bet
+    static constexpr int MaxCaracteresLinha = 4096;      // longer lines are refused
+    static constexpr int MaxRecusasGuardadas = 100;      // reasons kept for the report
+    static constexpr int64_t MaxApostas = 5000000;       // valid bets read at most
+    static constexpr int64_t MaxNumerosTotal = 60000000; // and their numbers in all
 
     // The game's numbers: numIni to numFim (0 to 99 at most).
     LeitorApostas(int numIni, int numFim);
 
+    // Lower bounds than MaxApostas and MaxNumerosTotal (for tests).
+    void defineLimites(int64_t apostas, int64_t numeros) {
+        maxApostas_ = apostas;
+        maxNumeros_ = numeros;
+    }
+    int64_t limiteApostas() const { return maxApostas_; }
+    int64_t limiteNumeros() const { return maxNumeros_; }
+
     // The next bytes of the file. Nothing more is read after a fatal error
-    // or once MaxApostas bets are in hand.
+    // or once MaxApostas bets or MaxNumerosTotal numbers are in hand.
     void le(const char* dados, size_t tamanho);
     // The end of the file: the last line, when it has no line end.
     void termina();
@@ -72,6 +81,7 @@ private:
     std::vector<Recusa> recusas_;
     QString erro_;
     bool limiteAtingido_ = false;
+    int64_t maxApostas_ = MaxApostas, maxNumeros_ = MaxNumerosTotal;
 };
 
 } // namespace sorvelo

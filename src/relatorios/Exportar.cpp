@@ -73,11 +73,6 @@ int quantCelulas(const MatrizTexto& m, int64_t linha, const uint8_t*& c) {
     return quant;
 }
 
-template <typename F> void celula(const MatrizTexto& m, int64_t linha, int j, uint8_t codigo, F&& texto) {
-    if (codigo >= MatrizTexto::PrimeiroNumero && codigo != MatrizTexto::Outro) return;
-    if (codigo == MatrizTexto::Outro) texto(m.valor(j, linha));
-}
-
 QString motivoGravacao(QFileDevice::FileError erro) {
     switch (erro) {
     case QFileDevice::PermissionsError:
@@ -171,8 +166,8 @@ bool escreveCsv(const Programa& p, QIODevice& saida) {
             s.poe(';');
             if (c[j] >= MatrizTexto::PrimeiroNumero && c[j] != MatrizTexto::Outro)
                 s.numero2(c[j] - MatrizTexto::PrimeiroNumero);
-            else
-                celula(m, i, j, c[j], [&](const QString& t) { s.poe(campoCsv(t)); });
+            else if (c[j] == MatrizTexto::Outro)
+                s.poe(campoCsv(m.valor(j, i)));
         }
         if (!s.fimDeLinha()) return false;
     }
@@ -192,8 +187,8 @@ bool escreveTexto(const Programa& p, QIODevice& saida) {
             s.poe(' ');
             if (c[j] >= MatrizTexto::PrimeiroNumero && c[j] != MatrizTexto::Outro)
                 s.numero2(c[j] - MatrizTexto::PrimeiroNumero);
-            else
-                celula(m, i, j, c[j], [&](const QString& t) { s.poe(t.toUtf8()); });
+            else if (c[j] == MatrizTexto::Outro)
+                s.poe(m.valor(j, i).toUtf8());
         }
         if (!s.fimDeLinha()) return false;
     }

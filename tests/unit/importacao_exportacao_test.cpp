@@ -359,3 +359,27 @@ TEST(DialogoImportar, MilhaoDeLinhasInvalidasGuardaSoCemMotivos) {
     EXPECT_EQ(i.leitor().recusas().size(), 100u);
     EXPECT_TRUE(i.TxtRelatorio.endsWith(QStringLiteral("... e mais 999.900 linhas recusadas.\r\n")));
 }
+
+TEST(ImportacaoApostas, LeituraParaNoLimiteDeApostasEODiz) {
+    LeitorApostas l(1, 60);
+    l.defineLimites(3, 1000);
+    const QByteArray t = "1 2\n3 4\n5 6\n7 8\n9 10\n";
+    l.le(t.constData(), size_t(t.size()));
+    l.termina();
+    EXPECT_TRUE(l.limiteAtingido());
+    EXPECT_EQ(l.quantApostas(), 3);
+    EXPECT_EQ(RelatorioImportacao(l),
+              QStringLiteral(
+                  "A leitura parou na linha 3: uma importação traz no máximo 3 apostas e 1.000 números.\r\n"
+                  "Apostas válidas: 3\r\nLinhas recusadas: 0\r\n"));
+}
+
+TEST(ImportacaoApostas, LeituraParaNoLimiteDeNumeros) {
+    LeitorApostas l(1, 60);
+    l.defineLimites(1000, 5);
+    const QByteArray t = "1 2\n3 4\n5 6\n7 8\n";
+    l.le(t.constData(), size_t(t.size()));
+    l.termina();
+    EXPECT_TRUE(l.limiteAtingido());
+    EXPECT_EQ(l.quantApostas(), 3);
+}
