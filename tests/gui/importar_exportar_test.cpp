@@ -5,6 +5,8 @@
 #include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
 #include "platform/Duplos.h"
+#include "platform/qt/ServicosQt.h"
+#include "relatorios/Exportar.h"
 
 #include <QAction>
 #include <QApplication>
@@ -75,4 +77,28 @@ TEST(JanelaImportar, LeAoAparecerMostraORelatorioEImportaComOBotao) {
     janela.mostraModal();
     EXPECT_TRUE(viuRelatorio);
     EXPECT_EQ(p.e.QuantBan, 1);
+}
+
+TEST(ExportarPdf, AImpressoraDoDesktopEscreveOPdfNoArquivoPedidoSemAbriLo) {
+    QTemporaryDir pasta;
+    ServicosQt qt;
+    AbridorRegistro abridor;
+    qt.impressora.abridor = &abridor;
+    ServicosDuplos d;
+    Programa p;
+    p.s = d.servicos();
+    p.s.impressora = &qt.impressora;
+    Sorvelo janela(p);
+    p.e.VetBan.redimensionaPreservando(1);
+    p.e.VetBan.define(0, 0, QStringLiteral("01"));
+    p.e.VetBan.define(1, 0, QStringLiteral("#"));
+    p.e.QuantBan = 1;
+    const QString pdf = QDir(pasta.path()).filePath(QStringLiteral("banco.pdf"));
+    EXPECT_EQ(ExportaBanco(p, pdf, FormatoExportacao::Pdf), QString());
+    QFile f(pdf);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(f.read(5) == "%PDF-");
+    EXPECT_TRUE(abridor.abertos.isEmpty());
+    EXPECT_TRUE(qt.impressora.ultimoPdf().isEmpty());
+    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"banco.pdf"});
 }
