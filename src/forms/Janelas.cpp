@@ -90,6 +90,9 @@ void JanelasFormas::mostra(Dialogo d) {
 
     case Dialogo::VerificaGarantia:
         return mostraJanelaVerificaGarantia(p, pai);
+
+    case Dialogo::Importar:
+        return mostraJanelaImportar(p, pai);
     }
 }
 

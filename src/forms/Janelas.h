@@ -35,6 +35,7 @@ void mostraJanelaHelp(Programa& p, QWidget* pai);
 void mostraJanelaTopicos(Programa& p, QWidget* pai);
 void mostraJanelaSobre(Programa& p, QWidget* pai);
 void mostraJanelaVerificaGarantia(Programa& p, QWidget* pai);
+void mostraJanelaImportar(Programa& p, QWidget* pai);
 
 class JanelasFormas : public Dialogos {
 public:

@@ -4,6 +4,7 @@
 #include "forms/Desenhos.h"
 #include "forms/Protecao.h"
 #include "combinacoes/Combinacao.h"
+#include "edicao/Importar.h"
 #include "relatorios/Ajuda.h"
 #include "edicao/Eliminar.h"
 #include "edicao/Filtrar.h"
@@ -17,6 +18,7 @@
 #include "forms/Janelas.h"
 #include "platform/qt/AreaRica.h"
 #include "relatorios/Conferencia.h"
+#include "relatorios/Exportar.h"
 #include "relatorios/Sobre.h"
 
 #include <QApplication>
@@ -130,6 +132,10 @@ void Sorvelo::montaMenus() {
     QAction* sair = arquivo->addAction(QStringLiteral("Sair"));
     sair->setObjectName(QStringLiteral("MenuSair"));
     connect(sair, &QAction::triggered, this, &QWidget::close);
+    arquivo->addSeparator()->setObjectName(QStringLiteral("TracoImportar"));
+    item(arquivo, "MenuImportar", QStringLiteral("Importar apostas..."),
+         [this] { MenuImportar(p_, p_.importar); });
+    item(arquivo, "MenuExportar", QStringLiteral("Exportar banco..."), [this] { ExportarBanco(p_); });
 
     QMenu* loterias = menu("MenuLoterias", QStringLiteral("&Loterias"));
     auto jogo = [&](const char* nome, int k) {

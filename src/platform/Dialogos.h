@@ -33,7 +33,8 @@ namespace sorvelo {
     X(Help)                                                                                                  \
     X(Topicos)                                                                                               \
     X(Sobre)                                                                                                 \
-    X(VerificaGarantia)
+    X(VerificaGarantia)                                                                                      \
+    X(Importar)
 
 enum class Dialogo {
 #define SORVELO_DIALOGO_ENUM(nome) nome,

@@ -42,6 +42,9 @@ public:
     virtual void defineFonte(const QString& nome, double tamanho) = 0;
     virtual void imprime(const QString& texto) = 0;
     virtual void fim() = 0;
+    // The next job, up to its end, is written as a PDF to this file instead
+    // of going to a printer.
+    virtual void defineArquivo(const QString& caminho) = 0;
 };
 
 // Rnd and Randomize: one uniform generator for the whole process.

@@ -7,6 +7,7 @@
 
 #include "combinacoes/Module2.h"
 #include "core/Estado.h"
+#include "edicao/Importar.h"
 
 namespace sorvelo {
 
@@ -16,6 +17,8 @@ struct Programa : Nucleo {
     // The generator of combinations and its prize statistics: lives as
     // long as the program (ContProgresso goes on from run to run).
     Module2 module2;
+    // The file chosen for an import, on its way to the dialog.
+    ModuloImportar importar;
     // The coming modules' state goes here, one member each.
 };
 

@@ -1,5 +1,10 @@
 #include "apoio/Duplos.h"
 
+#include "base/Semantica.h"
+
+#include <QFile>
+#include <QFileInfo>
+
 namespace sorvelo {
 
 Resposta CaixaRoteirizada::registra(CaixaVista v) {
@@ -66,9 +71,22 @@ void ImpressoraRegistro::defineFonte(const QString& nome, double tamanho) {
 }
 void ImpressoraRegistro::imprime(const QString& texto) {
     anota(QStringLiteral("texto ") + texto);
+    if (!arquivo_.isEmpty()) textos_ += texto;
 }
 void ImpressoraRegistro::fim() {
     anota(QStringLiteral("fim"));
+    if (arquivo_.isEmpty()) return;
+    QFile f(arquivo_);
+    arquivo_.clear();
+    const QByteArray bytes = textos_.toUtf8();
+    textos_.clear();
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(bytes) != bytes.size())
+        throw FalhaExecucao(erro::Impressora);
+}
+void ImpressoraRegistro::defineArquivo(const QString& caminho) {
+    anota(QStringLiteral("arquivo ") + QFileInfo(caminho).suffix());
+    arquivo_ = caminho;
+    textos_.clear();
 }
 
 float FonteRoteirizada::rnd() {

@@ -73,12 +73,15 @@ public:
     void defineFonte(const QString& nome, double tamanho) override;
     void imprime(const QString& texto) override;
     void fim() override;
-    // "fonte Arial 10", "texto ...", "fim"
+    // "arquivo": the job's texts are written to the file, as UTF-8, at its end.
+    void defineArquivo(const QString& caminho) override;
+    // "fonte Arial 10", "texto ...", "fim", "arquivo NOME"
     QStringList registro;
     std::function<void(const QString&)> aoRegistrar;
 
 private:
     void anota(const QString& linha);
+    QString arquivo_, textos_;
 };
 
 // Answers scripted values first, then those of the classic generator.

@@ -10,6 +10,7 @@
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QGroupBox>
 #include <QHash>
 #include <QLabel>
@@ -154,6 +155,24 @@ Escalar cor(Cor Estado::*m) {
     return [m](const Programa& p) { return txtCor(p.e.*m); };
 }
 
+// The bank's rows in one line: how many, and a SHA-1 of their texts (each
+// row as `mostra VetBan` writes it, then a line feed), for banks too large
+// to write out.
+QString resumoVetBan(const Programa& p) {
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    const int64_t quant = std::min<int64_t>(p.e.QuantBan.valor(), p.e.VetBan.quantLinhas());
+    for (int64_t i = 0; i < quant; ++i) {
+        QStringList celulas;
+        for (int64_t c = 0; c <= p.e.VetBan.ultimaColuna(); ++c) {
+            const QString v = p.e.VetBan.valor(c, i);
+            celulas << v;
+            if (v == u'#') break;
+        }
+        hash.addData((celulas.join(u' ') + u'\n').toUtf8());
+    }
+    return QStringLiteral("%1 linhas, SHA-1 %2").arg(quant).arg(QString::fromLatin1(hash.result().toHex()));
+}
+
 const QHash<QString, Escalar>& escalares() {
     static const QHash<QString, Escalar> tabela = {
         {QStringLiteral("NumIni"), de(&Estado::NumIni)},
@@ -190,6 +209,8 @@ const QHash<QString, Escalar>& escalares() {
         // The main form's own counters.
         {QStringLiteral("ContAjuda"), [](const Programa& p) { return txt(p.tela.ContAjuda); }},
         {QStringLiteral("ContCancela"), [](const Programa& p) { return txt(p.tela.ContCancela); }},
+        // Not a variable of the program: the rows of VetBan in one line.
+        {QStringLiteral("ResumoVetBan"), resumoVetBan},
     };
     return tabela;
 }

@@ -3,7 +3,11 @@
 #include "platform/qt/Vista.h"
 #include "roteiro/Transcricao.h"
 
+#include "base/Semantica.h"
+
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 
 namespace sorvelo::roteiro {
 
@@ -64,9 +68,23 @@ void ImpressoraConduzida::defineFonte(const QString& nome, double tamanho) {
 }
 void ImpressoraConduzida::imprime(const QString& texto) {
     c_.anota(QStringLiteral("impressora ") + aspas(texto));
+    if (!arquivo_.isEmpty()) textos_ += texto;
 }
 void ImpressoraConduzida::fim() {
     c_.anota(QStringLiteral("impressora fim"));
+    if (arquivo_.isEmpty()) return;
+    QFile f(arquivo_);
+    arquivo_.clear();
+    const QByteArray bytes = textos_.toUtf8();
+    textos_.clear();
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(bytes) != bytes.size())
+        throw FalhaExecucao(erro::Impressora);
+}
+void ImpressoraConduzida::defineArquivo(const QString& caminho) {
+    // The file's own name is a temporary one: the transcript gives its kind.
+    c_.anota(QStringLiteral("impressora arquivo ") + QFileInfo(caminho).suffix());
+    arquivo_ = caminho;
+    textos_.clear();
 }
 
 void AbridorConduzido::abre(const QString& endereco) {

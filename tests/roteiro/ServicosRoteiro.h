@@ -57,9 +57,12 @@ public:
     void defineFonte(const QString& nome, double tamanho) override;
     void imprime(const QString& texto) override;
     void fim() override;
+    // The job's texts go to the file, as UTF-8, at its end.
+    void defineArquivo(const QString& caminho) override;
 
 private:
     Condutor& c_;
+    QString arquivo_, textos_;
 };
 
 class AbridorConduzido : public Abridor {

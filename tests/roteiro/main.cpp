@@ -46,7 +46,8 @@ Linhas (uma por linha; # começa um comentário; textos entre aspas com \" \\ \r
   espera MS                    o tempo corre MS milissegundos para os temporizadores
   mostra C                     o texto de um controle ou de uma variável compartilhada
                                (QuantBan, Historico, VetBan, VetDezenas(3), ...); Foco dá o
-                               nome do controle com o foco
+                               nome do controle com o foco; ResumoVetBan dá quantas linhas
+                               e o SHA-1 das linhas de VetBan (bancos grandes demais para mostrar)
   mostra C cores               os trechos de cor e peso de uma área de texto rico; de uma
                                célula da grade, as cores de fundo e de texto
   mostra C posição             Left, Top, Width, Height de C em twips (à precisão do pixel)
@@ -77,6 +78,7 @@ Transcrição (uma linha cada, UTF-8):
   C: visível habilitado marcado  ·  forma Nome "Título" modal|não modal  ·  fecha Nome
   arquivo abrir|salvar "título" "filtro" / resposta "caminho"|cancela
   impressora fonte "Arial" 10 · impressora "texto" · impressora fim · abre "endereço"
+  impressora arquivo pdf (o trabalho vai para um arquivo, não para a impressora)
   confere C: esperado "x", obtido "y"  ·  falha 9 "Subscrito fora do intervalo"
   erro linha N: motivo
 )";

@@ -1,5 +1,4 @@
 #include "apoio/ProgramaTeste.h"
-#include "apoio/ProgramaTeste.h"
 #include "relatorios/EntraTexto.h"
 #include "relatorios/Estatisticas.h"
 

@@ -1,5 +1,4 @@
 #include "apoio/ProgramaTeste.h"
-#include "apoio/ProgramaTeste.h"
 #include "relatorios/RelBanco.h"
 
 #include <gtest/gtest.h>

@@ -174,7 +174,11 @@ void ImpressoraQt::comeca() {
     if (!t_) t_ = new Trabalho;
     if (t_->pintor.isActive()) return;
     const QString nome = impressoraPadrao ? impressoraPadrao() : QString();
-    if (nome.isEmpty()) {
+    if (!arquivo_.isEmpty()) {
+        t_->impressora.setOutputFormat(QPrinter::PdfFormat);
+        t_->impressora.setOutputFileName(arquivo_);
+        t_->impressora.setDocName(QFileInfo(arquivo_).completeBaseName());
+    } else if (nome.isEmpty()) {
         const QString pasta = pastaDocumentos ? pastaDocumentos() : QString();
         QDir().mkpath(pasta);
         QWidget* janela = janelaAtiva();
@@ -188,6 +192,7 @@ void ImpressoraQt::comeca() {
     if (!t_->impressora.isValid() || !t_->pintor.begin(&t_->impressora)) {
         delete t_;
         t_ = nullptr;
+        arquivo_.clear();
         throw FalhaExecucao(erro::Impressora);
     }
     t_->y = 0;
@@ -226,7 +231,12 @@ void ImpressoraQt::imprime(const QString& texto) {
     }
 }
 
+void ImpressoraQt::defineArquivo(const QString& caminho) {
+    arquivo_ = caminho;
+}
+
 void ImpressoraQt::fim() {
+    arquivo_.clear();
     if (!t_ || !t_->pintor.isActive()) {
         delete t_;
         t_ = nullptr;

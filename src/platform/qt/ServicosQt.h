@@ -40,6 +40,7 @@ public:
     void defineFonte(const QString& nome, double tamanho) override;
     void imprime(const QString& texto) override;
     void fim() override;
+    void defineArquivo(const QString& caminho) override;
 
     // The name of the system's default printer; empty when there is none.
     std::function<QString()> impressoraPadrao;
@@ -56,6 +57,7 @@ private:
     struct Trabalho;
     void comeca();
     Trabalho* t_ = nullptr;
+    QString arquivo_; // the PDF file of the next job, when one is asked for
     QString ultimoPdf_;
     int paginas_ = 0;
 };
