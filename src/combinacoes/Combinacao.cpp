@@ -44,12 +44,14 @@ void Combinacoes::fecha() {
 
 void Combinacoes::BtnCancelar() {
     p_.e.Cancelado = true;
+    module2(p_).Interrompido = true;
     fecha();
 }
 
 void Combinacoes::BtnIniciar() {
     auto& e = p_.e;
     Module2& m = module2(p_);
+    m.Interrompido = false;
     e.Historico += p_.agoraTexto() + QStringLiteral(": Combinação de ") + LblDezComb +
                    QStringLiteral(" números ") + QStringLiteral(" de ") + LblDezCart +
                    QStringLiteral(" em ") + LblDezCart + CRLF;
@@ -61,21 +63,23 @@ void Combinacoes::BtnIniciar() {
     IniciaProgresso(p_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
-        // A dialog closed by its cancel during the run is gone: its check
-        // box reads as at a new load, unchecked, and no count is made.
-        if (aberto_ && ChkEst.Value) {
-            IniciaProgresso(p_, e.TotalApostas * 6);
-            mensagem(QStringLiteral("Fazendo estatística de acertos..."));
-            p_.s.cedencia->cede();
-            FazEstatistica(p_, e.NomeLoteria, e.TotalApostas);
-        }
-        mensagem(QString());
-        fecha();
-    } else {
+    // A cancel stops the generator and the count at their next yield.
+    const bool feito = aberto_ && CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas);
+    if (feito && aberto_ && ChkEst.Value) {
+        IniciaProgresso(p_, e.TotalApostas * 6);
+        mensagem(QStringLiteral("Fazendo estatística de acertos..."));
+        p_.s.cedencia->cede();
+        if (aberto_) FazEstatistica(p_, e.NomeLoteria, e.TotalApostas);
+    }
+    // The dialog closed during the run was cancelled, whatever Timer1 did to
+    // Cancelado meanwhile: nothing goes to the bank.
+    if (!feito || !aberto_) {
         e.Cancelado = true;
         fecha();
+        return;
     }
+    mensagem(QString());
+    fecha();
 }
 
 Int16 DezenasDoFechamento(const QString& texto) {

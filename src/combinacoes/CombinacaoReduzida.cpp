@@ -32,11 +32,13 @@ void CombinacoesReduz::fecha() {
 
 void CombinacoesReduz::BtnCancelar() {
     p_.e.Cancelado = true;
+    module2(p_).Interrompido = true;
     fecha();
 }
 
 void CombinacoesReduz::BtnIniciar() {
     auto& e = p_.e;
+    module2(p_).Interrompido = false;
     e.Historico += p_.agoraTexto() + QStringLiteral(": Garantia de no mínimo ") + LblGarantia +
                    QStringLiteral(" se acertar ") + LblAcertar +
                    QStringLiteral(" números dentro das dezenas escolhidas.") + CRLF;
@@ -44,13 +46,16 @@ void CombinacoesReduz::BtnIniciar() {
     IniciaProgresso(p_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
-        mensagem(QString());
-        fecha();
-    } else {
+    // A cancel stops the generator at its next yield; the dialog closed
+    // during the run was cancelled, whatever Timer1 did to Cancelado.
+    const bool feito = aberto_ && CombinaVetor(p_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas);
+    if (!feito || !aberto_) {
         e.Cancelado = true;
         fecha();
+        return;
     }
+    mensagem(QString());
+    fecha();
 }
 
 Int16 DezenasDaGarantia(const QString& texto) {

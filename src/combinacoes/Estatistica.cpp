@@ -33,10 +33,13 @@ template <typename Alvo> bool linhaTem(Programa& p, Int32 linha, Int16 c, Alvo a
     return true;
 }
 
+// An interrupted run makes no further pass and leaves its counters as they
+// are.
 void passeDezenas(Programa& p, Int16 c, Int16& contador) {
     Module2& m = module2(p);
+    if (m.Interrompido) return;
     contador = 0;
-    for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
+    for (Int32 linha = 0; linha < m.LinhaRes && !m.Interrompido; ++linha) {
         if (JogoTemDezenas(p, linha, c)) contador += 1;
         AvancaProgresso(p);
     }
@@ -44,9 +47,10 @@ void passeDezenas(Programa& p, Int16 c, Int16& contador) {
 
 void passeSubconjuntos(Programa& p, Int16 k, Int16 n, Int16& contador) {
     Module2& m = module2(p);
+    if (m.Interrompido) return;
     contador = 0;
     GeraSubconjuntos(p, k, n);
-    for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
+    for (Int32 linha = 0; linha < m.LinhaRes && !m.Interrompido; ++linha) {
         for (Int32 j = 0; j < m.QuantSub; ++j)
             if (JogoTemSubconjunto(p, linha, j, k)) contador += 1;
         AvancaProgresso(p);

@@ -114,6 +114,7 @@ bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
         m.LinhaRes = 0;
         for (;;) {
             if (GravaCombinacao(p) == 1) return true;
+            if (m.Interrompido) return false;
             const int64_t ult = m.UltPos.valor();
             if (m.VetPos(ult) < m.VetMax(ult)) {
                 m.VetPos(ult) += 1;
@@ -128,6 +129,7 @@ bool CombinaVetor(Programa& p, Int16 n, Int16 k, Int32 total) {
                 m.VetPos(q.valor()) += 1;
                 if (m.VetPos(q.valor()) < m.VetMax(q.valor())) break;
                 if (GravaCombinacao(p) == 1) return true;
+                if (m.Interrompido) return false;
             }
             for (Int32 j = q + 1; j <= m.UltPos; ++j)
                 m.VetPos(j.valor()) = m.VetPos(q.valor()) + (j - q).valor();
