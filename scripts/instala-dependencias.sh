@@ -3,7 +3,7 @@
 # and is missing from this machine. Uses sudo when not run as root.
 set -euo pipefail
 
-pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n libgtest-dev libbenchmark-dev
+pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n shared-mime-info libgtest-dev libbenchmark-dev
          fonts-liberation2 poppler-utils desktop-file-utils "$@")
 
 faltam=()
