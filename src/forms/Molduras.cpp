@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QPointer>
 
+#include <climits>
 #include <vector>
 
 namespace sorvelo {
@@ -16,27 +17,38 @@ namespace {
 class AjusteMoldura : public QObject {
 public:
     AjusteMoldura(QGroupBox* moldura, int topoInterno)
-        : QObject(moldura), moldura_(moldura), topo_(topoInterno) {
+        : QObject(moldura), moldura_(moldura), topo_(topoInterno), alturaDesenho_(moldura->height()) {
         setObjectName(QStringLiteral("AjusteMoldura"));
         moldura->installEventFilter(this);
     }
 
     void acrescenta(QWidget* filho) {
-        filhos_.emplace_back(filho);
-        filho->move(filho->x(), filho->y() + descida_);
+        filhos_.push_back({filho, filho->geometry()});
         ajusta();
     }
     int descida() const { return descida_; }
 
-    // The frame's inner top moved: its controls and its bottom follow.
+    // Places the controls anew from their places in the layout: as far below
+    // the inner top as the layout puts them, where the frame has the room;
+    // never above the frame's contents, the frame growing when they would
+    // otherwise run past its bottom.
     void ajusta() {
-        const int nova = qMax(0, moldura_->contentsRect().top() - topo_);
-        const int delta = nova - descida_;
-        if (delta == 0) return;
-        descida_ = nova;
-        for (const QPointer<QWidget>& f : filhos_)
-            if (f) f->move(f->x(), f->y() + delta);
-        moldura_->resize(moldura_->width(), moldura_->height() + delta);
+        const QRect dentro = moldura_->contentsRect();
+        int topo = INT_MAX, fundo = 0;
+        for (const Filho& f : filhos_) {
+            if (!f.w) continue;
+            topo = qMin(topo, f.desenho.top());
+            fundo = qMax(fundo, f.desenho.bottom() + 1);
+        }
+        if (topo == INT_MAX) return;
+        const int desejada = qMax(0, dentro.top() - topo_);
+        const int minima = qMax(0, dentro.top() - topo);
+        const int espaco = qMax(0, dentro.bottom() + 1 - fundo);
+        descida_ = qMax(minima, qMin(desejada, espaco));
+        for (const Filho& f : filhos_)
+            if (f.w) f.w->move(f.w->x(), f.desenho.y() + descida_);
+        const int altura = alturaDesenho_ + qMax(0, descida_ - espaco);
+        if (altura != moldura_->height()) moldura_->resize(moldura_->width(), altura);
     }
 
 protected:
@@ -48,9 +60,16 @@ protected:
 
 private:
     QGroupBox* moldura_;
+    // A control and its place in the layout, in pixels from the frame's
+    // outer top.
+    struct Filho {
+        QPointer<QWidget> w;
+        QRect desenho;
+    };
     int topo_;
+    int alturaDesenho_;
     int descida_ = 0;
-    std::vector<QPointer<QWidget>> filhos_;
+    std::vector<Filho> filhos_;
 };
 
 AjusteMoldura* ajusteDe(const QWidget* moldura) {

@@ -29,26 +29,18 @@ QString texto(const QRect& r) {
 }
 
 // Every control of every frame of the window within the frame's contents,
-// below its caption and its border; the help marks, which stand on the top
-// border at the right, within the frame and clear of its caption. Every
-// frame within its window.
+// below its caption and its border; every frame within its window.
 void confereMolduras(QWidget& janela) {
     const auto molduras = janela.findChildren<QGroupBox*>();
     ASSERT_FALSE(molduras.isEmpty());
     for (QGroupBox* g : molduras) {
         const QRect dentro = g->contentsRect();
-        const int fimTitulo = g->fontMetrics().horizontalAdvance(g->title()) + 20;
         EXPECT_TRUE(g->parentWidget()->rect().contains(g->geometry()))
             << janela.objectName().toStdString() << "." << g->objectName().toStdString() << " "
             << texto(g->geometry()).toStdString() << " fora de "
             << texto(g->parentWidget()->rect()).toStdString();
         for (QWidget* filho : g->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             if (filho->isWindow()) continue;
-            if (filho->objectName().startsWith(QStringLiteral("HelpRotina"))) {
-                EXPECT_TRUE(g->rect().contains(filho->geometry())) << filho->objectName().toStdString();
-                EXPECT_GT(filho->x(), fimTitulo) << filho->objectName().toStdString();
-                continue;
-            }
             EXPECT_TRUE(dentro.contains(filho->geometry()))
                 << janela.objectName().toStdString() << "." << g->objectName().toStdString() << ": "
                 << filho->objectName().toStdString() << " " << texto(filho->geometry()).toStdString()
