@@ -97,7 +97,14 @@ int main(int argc, char** argv) {
         aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")),
                 [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); });
         janela.findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
+        // The counters as Timer1 shows them within a second and a half.
+        AtualizaContadores(p);
+        janela.sincroniza();
         foto(janela).save(pasta.filePath(QStringLiteral("principal.png")));
+        // A draw of six numbers, five of them among the marked ones.
+        LimpaNumeros(p);
+        marca(p, {2, 8, 15, 21, 33, 56});
+        janela.sincroniza();
         janela.findChild<QPushButton*>(QStringLiteral("BtnConferir"))->click();
         if (auto* conf = janela.findChild<JanelaConfApostas*>(QStringLiteral("ConfApostas"))) {
             QApplication::processEvents();
