@@ -4,7 +4,7 @@
 set -euo pipefail
 
 pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n shared-mime-info libgtest-dev libbenchmark-dev
-         fonts-liberation2 poppler-utils desktop-file-utils "$@")
+         fonts-liberation2 poppler-utils desktop-file-utils xdg-utils "$@")
 
 faltam=()
 for p in "${pacotes[@]}"; do
