@@ -3,8 +3,8 @@
 # and is missing from this machine. Uses sudo when not run as root.
 set -euo pipefail
 
-pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n libgtest-dev
-         fonts-liberation2 poppler-utils desktop-file-utils "$@")
+pacotes=(cmake make g++ pkg-config qt6-base-dev qt6-translations-l10n shared-mime-info libgtest-dev
+         fonts-liberation2 poppler-utils desktop-file-utils xdg-utils "$@")
 
 faltam=()
 for p in "${pacotes[@]}"; do

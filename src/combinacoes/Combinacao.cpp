@@ -33,6 +33,7 @@ void Combinacoes::clicaAutoCompletar() {
 
 void Combinacoes::BtnIniciar() {
     auto& e = p_.e;
+    m_.Interrompido = false;
     e.Historico += p_.agoraTexto() + QStringLiteral(": Combinação de ") + LblDezComb +
                    QStringLiteral(" números ") + QStringLiteral(" de ") + LblDezCart +
                    QStringLiteral(" em ") + LblDezCart + CRLF;
@@ -44,21 +45,25 @@ void Combinacoes::BtnIniciar() {
     IniciaProgresso(p_, m_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
-        // A dialog closed by its cancel during the run is gone: its check
-        // box reads as at a new load, unchecked, and no count is made.
-        if (aberto() && ChkEst.Value) {
-            IniciaProgresso(p_, m_, e.TotalApostas * 6);
-            mensagem(QStringLiteral("Fazendo estatística de acertos..."));
-            p_.s.cedencia->cede();
-            FazEstatistica(p_, m_, e.NomeLoteria, e.TotalApostas);
-        }
-        mensagem(QString());
-        fecha();
-    } else {
+    // A cancel stops the generator and the count at their next yield.
+    const bool feito = aberto() && CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas);
+    // A dialog closed by its cancel during the run is gone: its check box
+    // reads as at a new load, unchecked, and no count is made.
+    if (feito && aberto() && ChkEst.Value) {
+        IniciaProgresso(p_, m_, e.TotalApostas * 6);
+        mensagem(QStringLiteral("Fazendo estatística de acertos..."));
+        p_.s.cedencia->cede();
+        if (aberto()) FazEstatistica(p_, m_, e.NomeLoteria, e.TotalApostas);
+    }
+    // The dialog closed during the run was cancelled, whatever Timer1 did to
+    // Cancelado meanwhile: nothing goes to the bank.
+    if (!feito || !aberto()) {
         e.Cancelado = true;
         fecha();
+        return;
     }
+    mensagem(QString());
+    fecha();
 }
 
 Int16 DezenasDoFechamento(const QString& texto) {

@@ -26,6 +26,11 @@ public:
     CaixaMarcar ChkEst, ChkAuto;
     bool ChkEstVisible = true, ChkAutoVisible = false;
 
+protected:
+    // Closed by any way during the run: the generator and the count stop at
+    // their next yield.
+    void fechando() override { m_.Interrompido = true; }
+
 private:
     Module2& m_;
 };

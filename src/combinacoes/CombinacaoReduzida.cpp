@@ -22,6 +22,7 @@ CombinacoesReduz::CombinacoesReduz(Nucleo& p, Module2& m)
 
 void CombinacoesReduz::BtnIniciar() {
     auto& e = p_.e;
+    m_.Interrompido = false;
     e.Historico += p_.agoraTexto() + QStringLiteral(": Garantia de no mínimo ") + LblGarantia +
                    QStringLiteral(" se acertar ") + LblAcertar +
                    QStringLiteral(" números dentro das dezenas escolhidas.") + CRLF;
@@ -29,13 +30,16 @@ void CombinacoesReduz::BtnIniciar() {
     IniciaProgresso(p_, m_, e.TotalApostas);
     mensagem(QStringLiteral("Efetuando combinações..."));
     p_.s.cedencia->cede();
-    if (CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas)) {
-        mensagem(QString());
-        fecha();
-    } else {
+    // A cancel stops the generator at its next yield; the dialog closed
+    // during the run was cancelled, whatever Timer1 did to Cancelado.
+    const bool feito = aberto() && CombinaVetor(p_, m_, e.QuantEscolhidos, e.DezAposta, e.TotalApostas);
+    if (!feito || !aberto()) {
         e.Cancelado = true;
         fecha();
+        return;
     }
+    mensagem(QString());
+    fecha();
 }
 
 Int16 DezenasDaGarantia(const QString& texto) {

@@ -21,6 +21,10 @@ public:
     // Controls (LblMensagem comes with the dialog's life).
     QString LblDezComb, LblDezApo, LblGarantia, LblAcertar;
 
+protected:
+    // Closed by any way during the run: the generator stops at its next yield.
+    void fechando() override { m_.Interrompido = true; }
+
 private:
     Module2& m_;
 };

@@ -32,18 +32,22 @@ template <typename Alvo> bool linhaTem(Nucleo& p, Module2& m, Int32 linha, Int16
     return true;
 }
 
+// An interrupted run makes no further pass and leaves its counters as they
+// are.
 void passeDezenas(Nucleo& p, Module2& m, Int16 c, Int16& contador) {
+    if (m.Interrompido) return;
     contador = 0;
-    for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
+    for (Int32 linha = 0; linha < m.LinhaRes && !m.Interrompido; ++linha) {
         if (JogoTemDezenas(p, m, linha, c)) contador += 1;
         AvancaProgresso(p, m);
     }
 }
 
 void passeSubconjuntos(Nucleo& p, Module2& m, Int16 k, Int16 n, Int16& contador) {
+    if (m.Interrompido) return;
     contador = 0;
     GeraSubconjuntos(p, m, k, n);
-    for (Int32 linha = 0; linha < m.LinhaRes; ++linha) {
+    for (Int32 linha = 0; linha < m.LinhaRes && !m.Interrompido; ++linha) {
         for (Int32 j = 0; j < m.QuantSub; ++j)
             if (JogoTemSubconjunto(p, m, linha, j, k)) contador += 1;
         AvancaProgresso(p, m);

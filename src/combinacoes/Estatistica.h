@@ -8,7 +8,8 @@
 namespace sorvelo {
 
 // Six passes over the rows for Mega-Sena, Dupla Sena and Quina (jogo in any
-// case); any other game makes none and leaves the counters as they are.
+// case); any other game makes none and leaves the counters as they are. An
+// interrupted run (Module2::Interrompido) stops at the next yield.
 void FazEstatistica(Nucleo& p, Module2& m, const QString& jogo, Int32 total);
 void IniciaEstatistica(Nucleo& p, Module2& m, Int32 total);
 // Whether the row holds the first c numbers of the draw (and was not

@@ -111,8 +111,15 @@ bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total) {
         m.UltIndice = Int32(n.valor()) - 1;
         IniciaPosicoes(m, n, k);
         m.LinhaRes = 0;
-        PercorreCombinacoes(m, FimNoTransporte::Termina, [&] { return GravaCombinacao(p, m); });
-        return true;
+        // An interrupted run stops after the row of the yield that saw it.
+        bool interrompido = false;
+        PercorreCombinacoes(m, FimNoTransporte::Termina, [&] {
+            if (GravaCombinacao(p, m) == 1) return 1;
+            if (!m.Interrompido) return 0;
+            interrompido = true;
+            return 1;
+        });
+        return !interrompido;
     } catch (const FalhaExecucao&) {
     } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {

@@ -62,6 +62,11 @@ struct Module2 {
     // The value of "Auto-completar" at the start of the run (0 or 1).
     Int16 AutoCompletar;
 
+    // Set by the cancel of the dialog that runs the generator: the generator
+    // and the prize statistics stop at their next yield. Timer1 never clears
+    // it; the dialog's start clears it.
+    bool Interrompido = false;
+
     // The memory that a run may plan for, in bytes: a combination whose rows
     // would need more, in VetRes and later in the bank, fails as an
     // allocation does. Zero or less: no limit but the allocator's. Starts at
@@ -117,6 +122,8 @@ template <typename Grava> void PercorreCombinacoes(Module2& m, FimNoTransporte f
     }
 }
 
+// True when all rows were made; false after a failure (with the message) or
+// when the run was interrupted (without one).
 bool CombinaVetor(Nucleo& p, Module2& m, Int16 n, Int16 k, Int32 total);
 int GravaCombinacao(Nucleo& p, Module2& m);
 bool PosicaoExcluida(Nucleo& p, Module2& m, Int32 idx);

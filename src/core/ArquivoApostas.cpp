@@ -301,7 +301,9 @@ void LeArquivo(Nucleo& p, const QString& nome) {
         QFileInfo::exists(nome) ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
     if (!aberto || QFileInfo(nome).isDir()) falhaAbertura(nome);
     Leitor l(arquivo);
-    e.NomeLoteria = l.texto();
+    // The name is upper-cased as the program writes it, so that a file
+    // written by hand ("Quina") behaves as one of the program's ("QUINA").
+    e.NomeLoteria = l.texto().toUpper();
     ConfiguraLoteria(p, e.NomeLoteria);
     CarregaMarcados(p, l.texto());
     leRtf(l.campo(), t.TxtBanco);

@@ -19,16 +19,16 @@ JanelaConfApostas::JanelaConfApostas(Programa& p, std::unique_ptr<ConfApostas> l
     lblTitulo->setFont(grande);
     rtfConf_ = poe(new AreaRica, this, "RTFConf", 120, 600, 9250, 4000);
     rtfConf_->defineDocumento(&c_->tela.RTFConf);
-    fraConf_ = poe(new QGroupBox, this, "FraConf", 120, 4800, 9250, 1900);
+    fraConf_ = poe(new QGroupBox, this, "FraConf", 120, 4800, 9250, 1680);
     rotulo(fraConf_, c_->tela.Label4, 120, 240, 5400, 255, "Label4");
     auto* txtPontos = poe(new QLineEdit, fraConf_, "TxtPontos", 5520, 180, 615, 315);
     rotulo(fraConf_, c_->tela.Label5, 6240, 240, 700, 255, "Label5");
     auto* lblMensagem = rotulo(fraConf_, QString(), 120, 720, 6000, 255, "LblMensagem");
-    auto* iniciar = poe(new QPushButton(c_->tela.BtnIniciar), fraConf_, "BtnIniciar", 120, 1200, 2400, 435);
+    auto* iniciar = poe(new QPushButton(c_->tela.BtnIniciar), fraConf_, "BtnIniciar", 120, 1140, 2400, 435);
     auto* imprimir =
-        poe(new QPushButton(c_->tela.BtnImprimir), fraConf_, "BtnImprimir", 2640, 1200, 1800, 435);
+        poe(new QPushButton(c_->tela.BtnImprimir), fraConf_, "BtnImprimir", 2640, 1140, 1800, 435);
     auto* cancelar =
-        poe(new QPushButton(c_->tela.BtnCancelar), fraConf_, "BtnCancelar", 4560, 1200, 1800, 435);
+        poe(new QPushButton(c_->tela.BtnCancelar), fraConf_, "BtnCancelar", 4560, 1140, 1800, 435);
 
     vincula(lblTitulo, c_->tela.LblTitulo);
     vincula(lblMensagem, c_->LblMensagem);

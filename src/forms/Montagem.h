@@ -4,6 +4,7 @@
 // runs protected and then refreshes the form.
 #pragma once
 
+#include "forms/Molduras.h"
 #include "forms/Protecao.h"
 
 #include <QLabel>
@@ -21,11 +22,13 @@ public:
     int tw(int twips) const;
     int deTw(int pixels) const;
     double dpi() const { return dpi_; }
-    // Places w in pai at x, y, with width l and height a (twips), named nome.
+    // Places w in pai at x, y, with width l and height a (twips), named nome;
+    // in a frame, measured from the frame's inner top (Molduras.h).
     template <typename W> W* poe(W* w, QWidget* pai, const char* nome, int x, int y, int l, int a) const {
         w->setParent(pai);
         if (nome) w->setObjectName(QString::fromUtf8(nome));
         w->setGeometry(tw(x), tw(y), tw(l), tw(a));
+        registraNaMoldura(*this, pai, w);
         return w;
     }
     QLabel* rotulo(QWidget* pai, const QString& texto, int x, int y, int l, int a,

@@ -89,7 +89,9 @@ Sorvelo::Sorvelo(Programa& p, JanelasFormas& janelas, QWidget* pai)
     liga(timer1_, &QTimer::timeout, [this] { TickTimer1(p_); });
 
     executaProtegido([this] { CarregaPrincipal(p_); });
-    resize(tw(11880) - 8, tw(8900) - tw(705));
+    // The work area below the menu gets the layout's client height, so that
+    // the scroll bars start where the layout puts them.
+    resize(tw(11880) - 8, tw(8900) - tw(705) + menuBar()->sizeHint().height());
     sincroniza();
     timer1_->start();
 }
@@ -439,7 +441,7 @@ void Sorvelo::atualizaTela() {
     aplicaLayout();
     for (size_t k = 0; k < helpRotina_.size(); ++k)
         helpRotina_[k]->setVisible(t.HelpRotinaVisible[k]);
-    picSort1_->move(tw(t.PicSort1Left), tw(t.PicSort1Top));
+    picSort1_->move(tw(t.PicSort1Left), tw(t.PicSort1Top) + descidaNaMoldura(frame1_));
     if (imagemSort1_ != t.PicSort1Imagem) {
         imagemSort1_ = t.PicSort1Imagem;
         picSort1_->setPixmap(desenhaDados(imagemSort1_, tw(375)));

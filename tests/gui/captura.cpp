@@ -22,6 +22,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QScreen>
 #include <QPushButton>
 #include <QTimer>
 
@@ -33,11 +35,26 @@ void marca(Programa& p, std::initializer_list<int> celulas) {
         ClicaNumero(p, Int16(int16_t(c)));
 }
 
+// The picture of a window. On a desktop with a window manager (the xcb
+// platform) the window is taken from the screen with the frame that the
+// window manager draws around it; offscreen, its contents alone.
+QPixmap foto(QWidget& w) {
+    if (QGuiApplication::platformName() != QStringLiteral("xcb")) return w.grab();
+    w.raise();
+    w.activateWindow();
+    QElapsedTimer t;
+    t.start();
+    while (t.elapsed() < 700)
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    const QRect moldura = w.frameGeometry();
+    return w.screen()->grabWindow(0, moldura.x(), moldura.y(), moldura.width(), moldura.height());
+}
+
 // Saves the modal dialog on top when it shows, then runs `depois` on it.
 void aoAbrir(const QString& arquivo, std::function<void(QWidget*)> depois) {
     QTimer::singleShot(50, [arquivo, depois] {
         if (QWidget* d = QApplication::activeModalWidget()) {
-            d->grab().save(arquivo);
+            foto(*d).save(arquivo);
             depois(d);
         }
     });
@@ -47,7 +64,7 @@ void capturaTutorial(Programa& p, const QDir& pasta) {
     auto salva = [&](QWidget& w, const char* nome) {
         w.show();
         QApplication::processEvents();
-        w.grab().save(pasta.filePath(QString::fromLatin1(nome)));
+        foto(w).save(pasta.filePath(QString::fromLatin1(nome)));
         w.close();
     };
     JanelaApresenta apresenta(p, [] { return std::unique_ptr<QWidget>(); });
@@ -82,12 +99,19 @@ int main(int argc, char** argv) {
         aoAbrir(pasta.filePath(QStringLiteral("combinacoes.png")),
                 [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click(); });
         janela.findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
-        janela.grab().save(pasta.filePath(QStringLiteral("principal.png")));
+        // The counters as Timer1 shows them within a second and a half.
+        AtualizaContadores(p);
+        janela.sincroniza();
+        foto(janela).save(pasta.filePath(QStringLiteral("principal.png")));
+        // A draw of six numbers, five of them among the marked ones.
+        LimpaNumeros(p);
+        marca(p, {2, 8, 15, 21, 33, 56});
+        janela.sincroniza();
         janela.findChild<QPushButton*>(QStringLiteral("BtnConferir"))->click();
         if (auto* conf = janela.findChild<JanelaConfApostas*>(QStringLiteral("ConfApostas"))) {
             QApplication::processEvents();
             conf->findChild<QPushButton*>(QStringLiteral("BtnIniciar"))->click();
-            conf->grab().save(pasta.filePath(QStringLiteral("conferencia.png")));
+            foto(*conf).save(pasta.filePath(QStringLiteral("conferencia.png")));
         }
         aoAbrir(pasta.filePath(QStringLiteral("sortear.png")),
                 [](QWidget* d) { d->findChild<QPushButton*>(QStringLiteral("BtnCancelar"))->click(); });
@@ -98,7 +122,7 @@ int main(int argc, char** argv) {
         janela.findChild<QPushButton*>(QStringLiteral("BtnDigitar"))->click();
         if (auto* dig = janela.findChild<JanelaDigitacao*>(QStringLiteral("Digitacao"))) {
             QApplication::processEvents();
-            dig->grab().save(pasta.filePath(QStringLiteral("digitacao.png")));
+            foto(*dig).save(pasta.filePath(QStringLiteral("digitacao.png")));
         }
         if (tutorial) capturaTutorial(p, pasta);
         return 0;
@@ -111,5 +135,5 @@ int main(int argc, char** argv) {
     }
     janela.sincroniza();
     QApplication::processEvents();
-    return janela.grab().save(args.value(0, QStringLiteral("sorvelo.png"))) ? 0 : 1;
+    return foto(janela).save(args.value(0, QStringLiteral("sorvelo.png"))) ? 0 : 1;
 }

@@ -87,8 +87,7 @@ TEST(ExportarPdf, AImpressoraDoDesktopEscreveOPdfNoArquivoPedidoSemAbriLo) {
     qt.impressora.abridor = &abridor;
     ServicosDuplos d;
     JanelasFormas janelas;
-    Programa p{d.servicos(), janelas};
-    p.s.impressora = &qt.impressora;
+    Programa p{d.servicos(nullptr, &qt.impressora), janelas};
     Sorvelo janela(p, janelas);
     p.e.VetBan.redimensionaPreservando(1);
     p.e.VetBan.define(0, 0, QStringLiteral("01"));

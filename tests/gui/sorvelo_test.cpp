@@ -111,11 +111,20 @@ TEST_F(JanelaPrincipal, TodosOsControlesTemSeuNomeComoObjectName) {
 TEST_F(JanelaPrincipal, OsQuadrosFicamNasPosicoesEmTwips) {
     auto geo = [&](const char* n) { return controle(QString::fromUtf8(n))->geometry(); };
     EXPECT_EQ(geo("PicLoteria").topLeft(), QPoint(0, janela->tw(600)));
-    EXPECT_EQ(geo("Frame1"), QRect(janela->tw(120), janela->tw(120), janela->tw(5655), janela->tw(3855)));
+    EXPECT_EQ(geo("Frame1").topLeft(), QPoint(janela->tw(120), janela->tw(120)));
+    EXPECT_EQ(geo("Frame1").width(), janela->tw(5655));
+    EXPECT_GE(geo("Frame1").height(), janela->tw(3855));
     EXPECT_EQ(geo("FraBanco").topLeft(), QPoint(janela->tw(6120), janela->tw(120)));
     EXPECT_EQ(geo("BtnSeta"), QRect(janela->tw(5760), janela->tw(1560), janela->tw(375), janela->tw(375)));
-    EXPECT_EQ(geo("Num(16)").topLeft(), QPoint(janela->tw(120 + 360), janela->tw(360 + 360)));
-    EXPECT_EQ(geo("TxtBanco"), QRect(janela->tw(120), janela->tw(240), janela->tw(5055), janela->tw(3255)));
+    // Inside a frame, measured from its inner top: moved down together, below
+    // the frame's caption, keeping the layout's distances.
+    EXPECT_EQ(geo("Num(16)").x(), janela->tw(120 + 360));
+    EXPECT_EQ(geo("Num(16)").y() - geo("Num(1)").y(), janela->tw(360));
+    EXPECT_GE(geo("Num(0)").y(), controle("Frame1")->contentsRect().top());
+    EXPECT_EQ(geo("TxtBanco").x(), janela->tw(120));
+    EXPECT_EQ(geo("TxtBanco").size(), QSize(janela->tw(5055), janela->tw(3255)));
+    EXPECT_GE(geo("TxtBanco").y(), controle("FraBanco")->contentsRect().top());
+    EXPECT_EQ(geo("TxtQuantApostas").y() - geo("TxtBanco").y(), janela->tw(3570) - janela->tw(240));
     EXPECT_EQ(janela->tw(1440), qRound(janela->screen()->logicalDotsPerInchX()));
 }
 
@@ -369,12 +378,15 @@ TEST_F(JanelaPrincipal, MoverSobreOBotaoEscondeSoASuaMarca) {
 
 TEST_F(JanelaPrincipal, FiguraDeSortearAfundaAoApertarEVoltaAoSoltar) {
     auto* figura = controle(QStringLiteral("PicSort1"));
-    const QPoint repouso(janela->tw(240), janela->tw(3000));
-    EXPECT_EQ(figura->pos(), repouso);
+    // In its frame, measured from the frame's inner top as the grid is.
+    const QPoint repouso = figura->pos();
+    EXPECT_EQ(repouso.x(), janela->tw(240));
+    EXPECT_EQ(repouso.y() - controle(QStringLiteral("Num(0)"))->y(), janela->tw(3000) - janela->tw(360));
     QMouseEvent aperta(QEvent::MouseButtonPress, QPointF(3, 3), figura->mapToGlobal(QPointF(3, 3)),
                        Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(figura, &aperta);
-    EXPECT_EQ(figura->pos(), QPoint(janela->tw(260), janela->tw(3020)));
+    EXPECT_EQ(figura->pos(),
+              repouso + QPoint(janela->tw(260) - janela->tw(240), janela->tw(3020) - janela->tw(3000)));
     // The release is a click: it opens the random choice of numbers, closed here.
     QString aberto;
     QTimer::singleShot(0, [&aberto] {

@@ -408,6 +408,47 @@ TEST_F(ArquivoApostas, JogoDoArquivoTrocaSemPerguntaEMenuFicaNoAnterior) {
     EXPECT_TRUE(b.d.caixa.vistas().empty());
 }
 
+TEST_F(ArquivoApostas, NomeDoJogoEscritoAMaoEmMinusculasValeComoEmMaiusculas) {
+    TrocaLoteria(a.p, u("Quina"));
+    a.salvaComo(caminho(u("quina.Apo")));
+    QByteArray bytes = conteudo(caminho(u("quina.Apo")));
+    ASSERT_EQ(bytes.mid(10, 5), QByteArray("QUINA"));
+    bytes.replace(10, 5, "Quina");
+    grava(caminho(u("mao.Apo")), bytes);
+
+    for (const QString& nome : {u("quina.Apo"), u("mao.Apo")}) {
+        SCOPED_TRACE(nome.toStdString());
+        Sessao b; // Mega-Sena, 4,50
+        b.p.tela.CmbFecha.Text = u("Duque");
+        b.abre(caminho(nome));
+        auto& q = b.p;
+        EXPECT_EQ(q.e.NomeLoteria, u("QUINA"));
+        EXPECT_EQ(q.tela.TxtLoteria.Text, u("QUINA"));
+        EXPECT_EQ(q.e.NumFim.valor(), 80);
+        EXPECT_DOUBLE_EQ(q.e.ValorAposta, 4.5) << "o preço de antes do arquivo, não o da Quina";
+        EXPECT_EQ(q.tela.CmbFecha.Text, u("Duque"));
+        EXPECT_TRUE(q.tela.MenuMegaSena);
+    }
+}
+
+TEST_F(ArquivoApostas, NomeLotofacilEmMinusculasComAcentoVoltaEmMaiusculas) {
+    TrocaLoteria(a.p, u("Lotofácil"));
+    a.salvaComo(caminho(u("lf.Apo")));
+    QByteArray bytes = conteudo(caminho(u("lf.Apo")));
+    // "LOTOFÁCIL" in Windows-1252: Á is 0xC1, á 0xE1.
+    ASSERT_EQ(bytes.mid(10, 9), QByteArray("LOTOF\xC1"
+                                           "CIL"));
+    bytes.replace(10, 9,
+                  "lotof\xE1"
+                  "cil");
+    grava(caminho(u("lf.Apo")), bytes);
+    Sessao b;
+    b.abre(caminho(u("lf.Apo")));
+    EXPECT_EQ(b.p.e.NomeLoteria, u("LOTOFÁCIL"));
+    EXPECT_EQ(b.p.tela.TxtLoteria.Text, u("LOTOFÁCIL"));
+    EXPECT_EQ(b.p.e.NumFim.valor(), 25);
+}
+
 TEST_F(ArquivoApostas, LotomaniaAbertaHabilitaOFechamento) {
     auto& p = a.p;
     TrocaLoteria(p, u("Lotomania"));

@@ -282,11 +282,12 @@ TEST(FluxoCombinacao, CancelarAntesDeIniciarNaoTocaNoBanco) {
     EXPECT_EQ(ContaNumeros(b.p), 7);
 }
 
-TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
+TEST(FluxoCombinacao, CancelarDuranteAGeracaoParaOGeradorNaCedenciaSeguinte) {
     ProgramaTeste b;
     b.marcaFaixa(1, 10); // 210 rows
     Roteiro r;
     r.estatistica = true;
+    // Yield 1 is the dialog's own, yield n + 2 follows row n.
     b.d.cedencia.aoCeder = [&](long long n) {
         if (n == 50) r.combinacoes->BtnCancelar();
     };
@@ -294,46 +295,126 @@ TEST(FluxoCombinacao, CancelarDuranteAGeracaoDeixaOGeradorAcabar) {
     m.QuantQuadras(0) = 1234;
     roteiriza(b, r);
     BtnIniciar(b.p);
-    EXPECT_EQ(m.LinhaRes, 210) << "o gerador vai até a última linha";
-    EXPECT_EQ(b.d.cedencia.quantas, 1 + 210) << "sem contagem de acertos";
+    EXPECT_EQ(m.LinhaRes, 49) << "o gerador para logo depois da cedência do cancelamento";
+    EXPECT_EQ(b.d.cedencia.quantas, 50) << "sem mais linhas nem contagem de acertos";
     EXPECT_EQ(m.QuantQuadras(0), 1234);
+    EXPECT_TRUE(b.d.caixa.vistas().empty()) << "um cancelamento não é falta de memória";
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
     EXPECT_EQ(b.p.e.Historico, Agora + QStringLiteral(": Combinação de 10 números  de 06 em 06\r\n"));
 }
 
-TEST(FluxoCombinacao, CancelarDuranteAContagemNaoLevaNadaAoBanco) {
+TEST(FluxoCombinacao, CancelarNaPrimeiraCedenciaNaoGeraNada) {
+    ProgramaTeste b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 1) r.combinacoes->BtnCancelar();
+    };
+    Module2& m = b.p.module2;
+    m.LinhaRes = 77;
+    roteiriza(b, r);
+    BtnIniciar(b.p);
+    EXPECT_EQ(b.d.cedencia.quantas, 1);
+    EXPECT_EQ(m.LinhaRes, 77) << "o gerador nem começa";
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+}
+
+TEST(FluxoCombinacao, CancelarDuranteAContagemParaAContagemNaCedenciaSeguinte) {
+    ProgramaTeste b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    r.estatistica = true;
+    // Yields 1 to 211 are the generation, 212 the dialog's before the count,
+    // then one a row in each of the six passes.
+    for (long long cancelaEm : {212LL, 213LL, 300LL, 212LL + 3 * 210, 212LL + 6 * 210 - 1, 212LL + 6 * 210}) {
+        b.d.cedencia.quantas = 0;
+        b.d.cedencia.aoCeder = [&](long long n) {
+            if (n == cancelaEm) r.combinacoes->BtnCancelar();
+        };
+        roteiriza(b, r);
+        BtnIniciar(b.p);
+        EXPECT_EQ(b.d.cedencia.quantas, cancelaEm) << "a contagem para logo depois do cancelamento";
+        EXPECT_TRUE(b.p.e.Cancelado);
+        EXPECT_EQ(r.vezesInsere, 0);
+        EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+    }
+}
+
+TEST(FluxoCombinacao, Timer1NaoDesfazOCancelamentoDaGeracao) {
+    ProgramaTeste b;
+    b.marcaFaixa(1, 10);
+    Roteiro r;
+    // The cancel comes at yield 40, and within the same yield the 31st tick
+    // of Timer1 clears Cancelado: the run ends as cancelled all the same.
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n != 40 || !r.combinacoes) return;
+        r.combinacoes->BtnCancelar();
+        for (int i = 0; i < 31; ++i)
+            TickTimer1(b.p);
+        EXPECT_FALSE(b.p.e.Cancelado);
+    };
+    roteiriza(b, r);
+    BtnIniciar(b.p);
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_EQ(b.p.e.QuantBan, 0);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+}
+
+TEST(FluxoCombinacao, Timer1NaoDesfazOCancelamentoDaContagem) {
     ProgramaTeste b;
     b.marcaFaixa(1, 10);
     Roteiro r;
     r.estatistica = true;
     b.d.cedencia.aoCeder = [&](long long n) {
-        if (n == 300) r.combinacoes->BtnCancelar();
+        if (n != 500 || !r.combinacoes) return;
+        r.combinacoes->BtnCancelar();
+        for (int i = 0; i < 31; ++i)
+            TickTimer1(b.p);
     };
     roteiriza(b, r);
     BtnIniciar(b.p);
-    EXPECT_EQ(b.d.cedencia.quantas, 1 + 210 + 1 + 6 * 210) << "a contagem vai até o fim";
+    EXPECT_EQ(b.d.cedencia.quantas, 500);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(r.vezesInsere, 0);
-    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
 }
 
-TEST(FluxoCombinacao, Timer1ApagaOCancelamentoEOFluxoSegue) {
-    ProgramaTeste b;
-    b.marcaFaixa(1, 10);
+TEST(FluxoCombinacao, FechamentoCanceladoParaOGeradorEDeixaOBanco) {
+    ProgramaTeste b(QStringLiteral("Lotofácil"));
+    b.marca({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
+    b.p.tela.CmbFecha.Text = QStringLiteral("7"); // 480700 rows
     Roteiro r;
-    // Every yield lasts one tick of Timer1; the cancel comes at yield 40 and
-    // the 62nd tick clears it before the generator ends.
     b.d.cedencia.aoCeder = [&](long long n) {
-        if (n == 40 && r.combinacoes) r.combinacoes->BtnCancelar();
-        TickTimer1(b.p);
+        if (n == 1000 && r.combinacoes) r.combinacoes->BtnCancelar();
     };
+    roteiriza(b, r);
+    BtnFechar(b.p);
+    EXPECT_EQ(b.d.cedencia.quantas, 1000);
+    EXPECT_EQ(module2(b.p).LinhaRes, 999);
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
+    EXPECT_EQ(b.p.e.QuantBan, 0);
+    EXPECT_EQ(ContaNumeros(b.p), 0) << "a grade fica sem marcas";
+}
+
+TEST(FluxoCombinacao, NovaCombinacaoDepoisDeUmCancelamentoVaiAteOFim) {
+    ProgramaTeste b;
+    b.marcaFaixa(1, 7);
+    Roteiro r;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n == 3 && r.combinacoes) r.combinacoes->BtnCancelar();
+    };
+    roteiriza(b, r);
+    BtnIniciar(b.p);
+    ASSERT_TRUE(b.p.e.Cancelado);
+    b.d.cedencia.aoCeder = nullptr;
     roteiriza(b, r);
     BtnIniciar(b.p);
     EXPECT_FALSE(b.p.e.Cancelado);
-    EXPECT_EQ(r.vezesInsere, 1);
-    EXPECT_EQ(b.p.e.QuantBan, 210);
+    EXPECT_EQ(b.p.e.QuantBan, 7);
 }
 
 TEST(FluxoCombinacao, CancelamentoPertoDoFimSobrevive) {

@@ -27,9 +27,10 @@ struct RoteiroReducao {
     bool iniciar = true; // "Iniciar combinação" (else "Cancelar")
     int vezesCombinacoesReduz = 0, vezesInsere = 0, vezesSuper = 0;
     QString lblDezComb, lblDezApo, lblGarantia, lblAcertar;
-    QStringList mensagens;              // LblMensagem of InsereVetorReduz, in order
-    QStringList contadores;             // LblCont of InsereVetorReduz, in order
-    InsereVetorReduz* insere = nullptr; // while it is up
+    QStringList mensagens;                   // LblMensagem of InsereVetorReduz, in order
+    QStringList contadores;                  // LblCont of InsereVetorReduz, in order
+    InsereVetorReduz* insere = nullptr;      // while it is up
+    CombinacoesReduz* combinacoes = nullptr; // while it is up
     bool insereAbertoNoFim = true;
 };
 
@@ -43,10 +44,12 @@ void roteiriza(ProgramaTeste& b, RoteiroReducao& r) {
         r.lblDezApo = dlg.LblDezApo;
         r.lblGarantia = dlg.LblGarantia;
         r.lblAcertar = dlg.LblAcertar;
+        r.combinacoes = &dlg;
         if (r.iniciar)
             dlg.BtnIniciar();
         else
             dlg.BtnCancelar();
+        r.combinacoes = nullptr;
     });
     b.d.dialogos.quando(Dialogo::InsereVetorReduz, [&r, &p] {
         ++r.vezesInsere;
@@ -332,6 +335,27 @@ TEST(FluxoReducao, CancelarNasCombinacoesReduzidasNaoInsere) {
     EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_TRUE(b.p.e.Cancelado);
     EXPECT_EQ(b.p.e.Historico, Limpou + Reduzida);
+    EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
+}
+
+TEST(FluxoReducao, CancelarDuranteAGeracaoParaOGeradorENaoInsere) {
+    ProgramaTeste b;
+    b.marcaFaixa(1, 20);
+    garantiaDe(b, QStringLiteral("Quadra")); // 4845 combinations
+    RoteiroReducao r;
+    b.d.cedencia.aoCeder = [&](long long n) {
+        if (n != 100 || !r.combinacoes) return;
+        r.combinacoes->BtnCancelar();
+        // Timer1's 31st tick within the same yield clears Cancelado.
+        for (int i = 0; i < 31; ++i)
+            TickTimer1(b.p);
+    };
+    reduz(b, r);
+    EXPECT_EQ(b.d.cedencia.quantas, 100);
+    EXPECT_EQ(module2(b.p).LinhaRes, 99);
+    EXPECT_TRUE(b.d.caixa.vistas().empty());
+    EXPECT_TRUE(b.p.e.Cancelado);
+    EXPECT_EQ(r.vezesInsere, 0);
     EXPECT_TRUE(b.p.tela.TxtBanco.texto().isEmpty());
 }
 

@@ -4,7 +4,7 @@
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
 #include "edicao/Importar.h"
-#include "programa_teste.h"
+#include "apoio/ProgramaTeste.h"
 #include "relatorios/Exportar.h"
 #include "relatorios/RelBanco.h"
 
@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 using namespace sorvelo;
 using namespace sorvelo::teste;

@@ -4,6 +4,7 @@
 
 #include "base/Semantica.h"
 #include "platform/Atividade.h"
+#include "platform/qt/DialogoArquivoPortugues.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -90,18 +91,35 @@ QString DialogoArquivoQt::filtroQt(const QString& filtro) {
     return saida.join(QStringLiteral(";;"));
 }
 
-QString DialogoArquivoQt::abrir(const QString& titulo, const QString& filtro) {
+QString DialogoArquivoQt::mostra(const QString& titulo, const QString& filtro, bool salvar) {
     atualizaVistas();
+    if (pasta_.isEmpty()) pasta_ = pastaDeDocumentos();
+    QFileDialog dialogo(janelaAtiva(), titulo, pasta_, filtroQt(filtro));
+    preparaDialogoArquivo(dialogo);
+    if (salvar) {
+        dialogo.setAcceptMode(QFileDialog::AcceptSave);
+        dialogo.setFileMode(QFileDialog::AnyFile);
+        // The overwrite question belongs to the program, not to the dialog.
+        dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+    } else {
+        dialogo.setAcceptMode(QFileDialog::AcceptOpen);
+        dialogo.setFileMode(QFileDialog::ExistingFile);
+    }
     EmModal modal;
-    return QFileDialog::getOpenFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro));
+    if (dialogo.exec() != QDialog::Accepted) return {};
+    const QStringList escolhidos = dialogo.selectedFiles();
+    if (escolhidos.isEmpty()) return {};
+    // The next dialog opens in the folder last used.
+    pasta_ = QFileInfo(escolhidos.first()).absolutePath();
+    return escolhidos.first();
+}
+
+QString DialogoArquivoQt::abrir(const QString& titulo, const QString& filtro) {
+    return mostra(titulo, filtro, false);
 }
 
 QString DialogoArquivoQt::salvar(const QString& titulo, const QString& filtro) {
-    // The overwrite question belongs to the program, not to the dialog.
-    atualizaVistas();
-    EmModal modal;
-    return QFileDialog::getSaveFileName(janelaAtiva(), titulo, QString(), filtroQt(filtro), nullptr,
-                                        QFileDialog::DontConfirmOverwrite);
+    return mostra(titulo, filtro, true);
 }
 
 struct ImpressoraQt::Trabalho {
@@ -284,6 +302,8 @@ void instalaTraducao() {
     if (tradutor.load(QLocale(QLocale::Portuguese, QLocale::Brazil), QStringLiteral("qtbase"),
                       QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&tradutor);
+    // The default locale names the types of files in the file dialogs.
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
 }
 
 } // namespace sorvelo

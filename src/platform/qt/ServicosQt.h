@@ -26,6 +26,11 @@ public:
     QString salvar(const QString& titulo, const QString& filtro) override;
     // "Arquivo de apostas (*.Apo)|*.Apo;" as the desktop writes it.
     static QString filtroQt(const QString& filtro);
+
+private:
+    // Opens in the user's documents folder, then in the folder last used.
+    QString mostra(const QString& titulo, const QString& filtro, bool salvar);
+    QString pasta_;
 };
 
 // Prints to the system's default printer. Where the system has no printer
@@ -115,7 +120,8 @@ struct ServicosQt {
     }
 };
 
-// Loads Qt's own Brazilian Portuguese translation, for the standard buttons.
+// Loads Qt's own Brazilian Portuguese translation, for the standard buttons
+// and dialogs, and makes Brazilian Portuguese the default locale.
 void instalaTraducao();
 
 } // namespace sorvelo
