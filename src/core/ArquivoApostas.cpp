@@ -2,6 +2,7 @@
 
 #include "BancoApostas.h"
 #include "Cp1252.h"
+#include "core/GravacaoAtomica.h"
 #include "Grade.h"
 #include "Loteria.h"
 #include "Module1.h"
@@ -37,11 +38,6 @@ constexpr int64_t UltimaPosicaoVetBan = 32767;
     if (nome.isEmpty()) throw FalhaExecucao(erro::NomeArquivoInvalido);
     if (!QFileInfo(nome).absoluteDir().exists()) throw FalhaExecucao(erro::CaminhoNaoEncontrado);
     throw FalhaExecucao(erro::AcessoCaminho);
-}
-
-[[noreturn]] void falhaEscrita(const QFile& arquivo) {
-    throw FalhaExecucao(arquivo.error() == QFileDevice::ResourceError ? erro::DiscoCheio
-                                                                      : erro::ErroEntradaSaida);
 }
 
 // ------------------------------------------------------------ writing
@@ -84,7 +80,7 @@ QString textoDasCelulas(const Programa& p, Cor fundo) {
 
 class Gravador {
 public:
-    explicit Gravador(QFile& arquivo) : arquivo_(arquivo) {}
+    explicit Gravador(GravacaoAtomica& arquivo) : arquivo_(arquivo) {}
     void campo(const char* dados, int64_t tamanho) {
         char comprimento[TamanhoComprimento];
         std::memset(comprimento, ' ', sizeof comprimento);
@@ -100,10 +96,8 @@ public:
     void campo(const QString& texto) { campo(cp1252::codifica(texto)); }
 
 private:
-    void escreve(const char* dados, int64_t tamanho) {
-        if (tamanho > 0 && arquivo_.write(dados, tamanho) != tamanho) falhaEscrita(arquivo_);
-    }
-    QFile& arquivo_;
+    void escreve(const char* dados, int64_t tamanho) { arquivo_.escreve(dados, tamanho); }
+    GravacaoAtomica& arquivo_;
     Int32 posicao_ = 1;
 };
 
@@ -256,9 +250,9 @@ void SalvarArquivoComo(Programa& p) {
 void GravaArquivo(Programa& p, const QString& Nome) {
     const auto& e = p.e;
     const auto& t = p.tela;
-    ApagaArquivo(Nome);
-    QFile arquivo(Nome);
-    if (Nome.isEmpty() || !arquivo.open(QIODevice::ReadWrite)) falhaAbertura(Nome);
+    if (Nome.isEmpty()) falhaAbertura(Nome);
+    // The old file stays whole until the new one is complete on the disk.
+    GravacaoAtomica arquivo(Nome);
     Gravador g(arquivo);
     g.campo(e.NomeLoteria);
     g.campo(TextoMarcados(p));
@@ -276,8 +270,7 @@ void GravaArquivo(Programa& p, const QString& Nome) {
     g.campo(t.TxtDezAp2.Text);
     g.campo(t.CmbGarantia.Text);
     g.campo(t.CmbAcertar.Text);
-    if (!arquivo.flush()) falhaEscrita(arquivo);
-    arquivo.close();
+    arquivo.conclui();
 }
 
 void AbrirArquivo(Programa& p) {

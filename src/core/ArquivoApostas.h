@@ -30,7 +30,7 @@ void NovoArquivo(Programa& p);
 void SalvarArquivo(Programa& p);
 // Salvar Como: the name forgotten, then Salvar.
 void SalvarArquivoComo(Programa& p);
-// Writes the file, deleting the old one first.
+// Writes the file: the old one is replaced only by a complete new one.
 void GravaArquivo(Programa& p, const QString& Nome);
 // Abrir: empties the bank, asks for a name, reads the sixteen fields.
 void AbrirArquivo(Programa& p);
