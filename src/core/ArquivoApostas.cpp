@@ -2,11 +2,11 @@
 
 #include "BancoApostas.h"
 #include "Cp1252.h"
-#include "core/GravacaoAtomica.h"
 #include "Grade.h"
 #include "Loteria.h"
 #include "Module1.h"
 #include "Rtf.h"
+#include "core/GravacaoAtomica.h"
 
 #include <QDir>
 #include <QFile>
@@ -103,41 +103,80 @@ private:
 
 // ------------------------------------------------------------ reading
 
+// A field as read: the bytes that the file holds, then the blanks that stand
+// for the rest of a text running past the end of the file. The blanks are
+// made only where the result depends on them.
+struct Campo {
+    QByteArray bytes;
+    int64_t brancos = 0;
+    int64_t tamanho() const { return bytes.size() + brancos; }
+    // The first n characters, blanks included.
+    QByteArray inicio(int64_t n) const {
+        n = std::min(n, tamanho());
+        if (n <= bytes.size()) return bytes.left(n);
+        try {
+            return bytes + QByteArray(n - bytes.size(), ' ');
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
+    }
+    QString texto() const {
+        try {
+            QString r = cp1252::decodifica(bytes);
+            if (brancos > 0) r.append(QString(brancos, u' '));
+            return r;
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
+    }
+};
+
 // Reads the fields one after the other. A byte past the end of the file
 // reads as a blank, as the blank-filled buffer of the read is left there.
 class Leitor {
 public:
     explicit Leitor(QFile& arquivo) : arquivo_(arquivo), tamanho_(arquivo.size()) {}
 
-    QByteArray campo() {
-        const QByteArray comprimento = bytes(TamanhoComprimento);
+    Campo campo() {
+        const Campo comprimento = bytes(TamanhoComprimento);
         posicao_ += TamanhoComprimento;
-        const Int32 n = Int32::de(valorNumerico(cp1252::decodifica(comprimento)));
+        const Int32 n = Int32::de(valorNumerico(comprimento.texto()));
         if (n < 0) throw FalhaExecucao(erro::ChamadaInvalida);
         if (n > LimiteTextoArquivo) throw FalhaExecucao(erro::MemoriaInsuficiente);
-        QByteArray texto = bytes(n.valor());
+        Campo texto = bytes(n.valor());
         posicao_ += n.valor();
         return texto;
     }
-    QString texto() { return cp1252::decodifica(campo()); }
+    QString texto() { return campo().texto(); }
 
 private:
-    QByteArray bytes(int64_t n) {
-        QByteArray r;
+    Campo bytes(int64_t n) {
+        Campo r;
+        const int64_t inicio = int64_t(posicao_.valor()) - 1;
+        const int64_t noArquivo = std::clamp<int64_t>(tamanho_ - inicio, 0, n);
         try {
-            r = QByteArray(n, ' ');
+            r.bytes = QByteArray(noArquivo, ' ');
         } catch (const std::bad_alloc&) {
             throw FalhaExecucao(erro::MemoriaInsuficiente);
         }
-        const int64_t inicio = int64_t(posicao_.valor()) - 1;
-        if (n > 0 && inicio < tamanho_ && arquivo_.seek(inicio))
-            arquivo_.read(r.data(), std::min(n, tamanho_ - inicio));
+        if (noArquivo > 0 && arquivo_.seek(inicio)) arquivo_.read(r.bytes.data(), noArquivo);
+        r.brancos = n - noArquivo;
         return r;
     }
     QFile& arquivo_;
     int64_t tamanho_;
     Int32 posicao_ = 1;
 };
+
+// The part of a field of marks that decides the result: each pair of
+// characters is a mark, and a pair of blanks is the number 0, whose cell
+// doesn't exist. The pair cut by the end of the file counts; of the pairs of
+// blanks alone the first decides (skipped for the blue marks, the end of the
+// program for the red ones), the others can only repeat it.
+QString marcasDe(const Campo& c, bool pulaFalhas) {
+    const int64_t reais = c.bytes.size() + (c.bytes.size() % 2);
+    return cp1252::decodifica(c.inicio(reais + (pulaFalhas ? 0 : 2)));
+}
 
 // The numeric value of the two characters at i (1-based), as an integer.
 Int16 valorPar(const QString& texto, int64_t i) {
@@ -290,26 +329,30 @@ void LeArquivo(Programa& p, const QString& nome) {
 
     // The binary open creates a name that does not exist.
     QFile arquivo(nome);
+    // A folder, a pipe or a device is no file of bets: it can't be read
+    // whole, and a pipe would wait for a writer forever.
+    const QFileInfo info(nome);
+    if (info.exists() && !info.isFile()) falhaAbertura(nome);
     const bool aberto =
-        QFileInfo::exists(nome) ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
-    if (!aberto || QFileInfo(nome).isDir()) falhaAbertura(nome);
+        info.exists() ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
+    if (!aberto || arquivo.isSequential()) falhaAbertura(nome);
     Leitor l(arquivo);
     e.NomeLoteria = l.texto();
     ConfiguraLoteria(p, e.NomeLoteria);
-    CarregaMarcados(p, l.texto());
-    leRtf(l.campo(), t.TxtBanco);
+    CarregaMarcados(p, marcasDe(l.campo(), true));
+    const Campo rtf = l.campo();
+    leRtf(rtf.bytes, t.TxtBanco, rtf.brancos);
     t.TxtQuantApostas.Text = l.texto();
     t.TxtValorApostas.Text = l.texto();
     // Only the characters that CarregaVetBan can reach are decoded.
-    const QByteArray vetBan = l.campo();
-    const QString textoVetBan =
-        cp1252::decodifica(vetBan.constData(), std::min<int64_t>(vetBan.size(), UltimaPosicaoVetBan + 1));
-    e.QuantBan = Int32::de(valorNumerico(l.texto()));
+    const QString textoVetBan = cp1252::decodifica(l.campo().inicio(UltimaPosicaoVetBan + 1));
+    // Blanks are left out of a number: those past the end change nothing.
+    e.QuantBan = Int32::de(valorNumerico(cp1252::decodifica(l.campo().bytes)));
     CarregaVetBan(p, textoVetBan);
     e.TextoEstatistica = l.texto();
     e.DezEscolhidas = l.texto();
     e.Historico = l.texto();
-    CarregaFixos(p, l.texto());
+    CarregaFixos(p, marcasDe(l.campo(), false));
     t.TxtValAp.Text = l.texto();
     defineSpin(t.SpbDezAp, t.TxtDezAp, l.texto());
     defineSpin(t.SpbDezAp2, t.TxtDezAp2, l.texto());
