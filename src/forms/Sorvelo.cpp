@@ -120,6 +120,10 @@ Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
     delete janelaConf_.data();
     delete janelaJogo_.data();
+    // The controls still signal while they are taken down (the focus leaving
+    // a box); nothing of this window may answer them any more.
+    for (QObject* filho : findChildren<QObject*>())
+        QObject::disconnect(filho, nullptr, this, nullptr);
 }
 
 void Sorvelo::mostraHelp() {
@@ -395,7 +399,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
     liga(reduz, &QPushButton::clicked, [this] { BtnReduz(p_, janelasReducao(this)); });
     rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
-    cmbGarantia_ = poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
+    auto* garantia = poe(new CaixaCombinacao, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
+    cmbGarantia_ = garantia;
     cmbGarantia_->setEditable(true);
     cmbGarantia_->addItems(itensGarantia(20));
     rotulo(frame5_, QStringLiteral("Se acertar"), 2640, 810, 840, 255);
@@ -421,7 +426,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     giro(spbDezAp2_, p_.tela.SpbDezAp2, p_.tela.TxtDezAp2, txtDezAp2_);
     liga(cmbGarantia_, &QComboBox::editTextChanged,
          [this](const QString& t) { p_.tela.CmbGarantia.Text = t; });
-    liga(cmbGarantia_, &QComboBox::activated, [this](int) {
+    // Only a click on an item derives CmbAcertar, not a Tab through the box.
+    liga(garantia, &CaixaCombinacao::escolhido, [this](int) {
         p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
         CliqueGarantia(p_);
     });
