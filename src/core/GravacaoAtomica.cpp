@@ -36,7 +36,8 @@ bool discoCheio(int e) {
 
 // A hidden name beside the final one that nobody else is using yet.
 QByteArray nomeTemporario(const QByteArray& pasta, const QByteArray& final) {
-    const QByteArray base = final.mid(final.lastIndexOf('/') + 1);
+    // Cut short, so that a long final name still leaves room for the rest.
+    const QByteArray base = final.mid(final.lastIndexOf('/') + 1).left(64);
     const quint64 sorteio = QRandomGenerator::system()->generate64();
     return pasta + "/." + base + '.' + QByteArray::number(sorteio, 36) + ".tmp";
 }

@@ -223,7 +223,6 @@ struct Grupo {
     Destino destino = Destino::Texto;
     int64_t uc = 1;
     Formato formato;
-    friend bool operator==(const Grupo&, const Grupo&) = default;
 };
 
 // A group's state in 8 bytes: colour (24 bits), bold, destination, \uc.
