@@ -133,7 +133,7 @@ int main() {
             "\\red" + QByteArray::number(c % 256) + "\\green" + QByteArray::number(c / 256) + "\\blue1;";
     muitas += '}';
     for (int k = 0; k < 2000000; ++k)
-        muitas += "\\cf" + QByteArray::number(1 + (k * 7919) % 60000) + " x";
+        muitas += "\\cf" + QByteArray::number(1 + (int64_t(k) * 7919) % 60000) + " x";
     muitas += '}';
     relata(
         "RTF: 2 milhões de mudanças entre 60000 cores", double(muitas.size()),
