@@ -73,7 +73,8 @@ exec ./arquivo_fuzz "$corpus" \
     -dict="$raiz/tests/fuzz/arquivo.dict" \
     -max_total_time="$segundos" \
     -timeout=10 \
-    -rss_limit_mb=2048 \
-    -max_len=16384 \
+    -rss_limit_mb=1024 \
+    -malloc_limit_mb=256 \
+    -max_len=1048576 \
     -artifact_prefix="$saida/" \
     -print_final_stats=1

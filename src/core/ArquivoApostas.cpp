@@ -6,6 +6,7 @@
 #include "core/Loteria.h"
 #include "core/Module1.h"
 #include "core/Rtf.h"
+#include "core/GravacaoAtomica.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,11 +38,6 @@ constexpr int64_t UltimaPosicaoVetBan = 32767;
     if (nome.isEmpty()) throw FalhaExecucao(erro::NomeArquivoInvalido);
     if (!QFileInfo(nome).absoluteDir().exists()) throw FalhaExecucao(erro::CaminhoNaoEncontrado);
     throw FalhaExecucao(erro::AcessoCaminho);
-}
-
-[[noreturn]] void falhaEscrita(const QFile& arquivo) {
-    throw FalhaExecucao(arquivo.error() == QFileDevice::ResourceError ? erro::DiscoCheio
-                                                                      : erro::ErroEntradaSaida);
 }
 
 // ------------------------------------------------------------ writing
@@ -84,7 +80,7 @@ QString textoDasCelulas(const Nucleo& p, Cor fundo) {
 
 class Gravador {
 public:
-    explicit Gravador(QFile& arquivo) : arquivo_(arquivo) {}
+    explicit Gravador(GravacaoAtomica& arquivo) : arquivo_(arquivo) {}
     void campo(const char* dados, int64_t tamanho) {
         char comprimento[TamanhoComprimento];
         std::memset(comprimento, ' ', sizeof comprimento);
@@ -100,14 +96,40 @@ public:
     void campo(const QString& texto) { campo(cp1252::codifica(texto)); }
 
 private:
-    void escreve(const char* dados, int64_t tamanho) {
-        if (tamanho > 0 && arquivo_.write(dados, tamanho) != tamanho) falhaEscrita(arquivo_);
-    }
-    QFile& arquivo_;
+    void escreve(const char* dados, int64_t tamanho) { arquivo_.escreve(dados, tamanho); }
+    GravacaoAtomica& arquivo_;
     Int32 posicao_ = 1;
 };
 
 // ------------------------------------------------------------ reading
+
+// A field as read: the bytes that the file holds, then the blanks that stand
+// for the rest of a text running past the end of the file. The blanks are
+// made only where the result depends on them.
+struct Campo {
+    QByteArray bytes;
+    int64_t brancos = 0;
+    int64_t tamanho() const { return bytes.size() + brancos; }
+    // The first n characters, blanks included.
+    QByteArray inicio(int64_t n) const {
+        n = std::min(n, tamanho());
+        if (n <= bytes.size()) return bytes.left(n);
+        try {
+            return bytes + QByteArray(n - bytes.size(), ' ');
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
+    }
+    QString texto() const {
+        try {
+            QString r = cp1252::decodifica(bytes);
+            if (brancos > 0) r.append(QString(brancos, u' '));
+            return r;
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
+    }
+};
 
 // Reads the fields one after the other. A byte past the end of the file
 // reads as a blank, as the blank-filled buffer of the read is left there.
@@ -115,35 +137,46 @@ class Leitor {
 public:
     explicit Leitor(QFile& arquivo) : arquivo_(arquivo), tamanho_(arquivo.size()) {}
 
-    QByteArray campo() {
-        const QByteArray comprimento = bytes(TamanhoComprimento);
+    Campo campo() {
+        const Campo comprimento = bytes(TamanhoComprimento);
         posicao_ += TamanhoComprimento;
-        const Int32 n = Int32::de(valorNumerico(cp1252::decodifica(comprimento)));
+        const Int32 n = Int32::de(valorNumerico(comprimento.texto()));
         if (n < 0) throw FalhaExecucao(erro::ChamadaInvalida);
         if (n > LimiteTextoArquivo) throw FalhaExecucao(erro::MemoriaInsuficiente);
-        QByteArray texto = bytes(n.valor());
+        Campo texto = bytes(n.valor());
         posicao_ += n.valor();
         return texto;
     }
-    QString texto() { return cp1252::decodifica(campo()); }
+    QString texto() { return campo().texto(); }
 
 private:
-    QByteArray bytes(int64_t n) {
-        QByteArray r;
+    Campo bytes(int64_t n) {
+        Campo r;
+        const int64_t inicio = int64_t(posicao_.valor()) - 1;
+        const int64_t noArquivo = std::clamp<int64_t>(tamanho_ - inicio, 0, n);
         try {
-            r = QByteArray(n, ' ');
+            r.bytes = QByteArray(noArquivo, ' ');
         } catch (const std::bad_alloc&) {
             throw FalhaExecucao(erro::MemoriaInsuficiente);
         }
-        const int64_t inicio = int64_t(posicao_.valor()) - 1;
-        if (n > 0 && inicio < tamanho_ && arquivo_.seek(inicio))
-            arquivo_.read(r.data(), std::min(n, tamanho_ - inicio));
+        if (noArquivo > 0 && arquivo_.seek(inicio)) arquivo_.read(r.bytes.data(), noArquivo);
+        r.brancos = n - noArquivo;
         return r;
     }
     QFile& arquivo_;
     int64_t tamanho_;
     Int32 posicao_ = 1;
 };
+
+// The part of a field of marks that decides the result: each pair of
+// characters is a mark, and a pair of blanks is the number 0, whose cell
+// doesn't exist. The pair cut by the end of the file counts; of the pairs of
+// blanks alone the first decides (skipped for the blue marks, the end of the
+// program for the red ones), the others can only repeat it.
+QString marcasDe(const Campo& c, bool pulaFalhas) {
+    const int64_t reais = c.bytes.size() + (c.bytes.size() % 2);
+    return cp1252::decodifica(c.inicio(reais + (pulaFalhas ? 0 : 2)));
+}
 
 // The numeric value of the two characters at i (1-based), as an integer.
 Int16 valorPar(const QString& texto, int64_t i) {
@@ -256,9 +289,9 @@ void SalvarArquivoComo(Nucleo& p) {
 void GravaArquivo(Nucleo& p, const QString& Nome) {
     const auto& e = p.e;
     const auto& t = p.tela;
-    ApagaArquivo(Nome);
-    QFile arquivo(Nome);
-    if (Nome.isEmpty() || !arquivo.open(QIODevice::ReadWrite)) falhaAbertura(Nome);
+    if (Nome.isEmpty()) falhaAbertura(Nome);
+    // The old file stays whole until the new one is complete on the disk.
+    GravacaoAtomica arquivo(Nome);
     Gravador g(arquivo);
     g.campo(e.NomeLoteria);
     g.campo(TextoMarcados(p));
@@ -276,8 +309,7 @@ void GravaArquivo(Nucleo& p, const QString& Nome) {
     g.campo(t.TxtDezAp2.Text);
     g.campo(t.CmbGarantia.Text);
     g.campo(t.CmbAcertar.Text);
-    if (!arquivo.flush()) falhaEscrita(arquivo);
-    arquivo.close();
+    arquivo.conclui();
 }
 
 void AbrirArquivo(Nucleo& p) {
@@ -297,28 +329,32 @@ void LeArquivo(Nucleo& p, const QString& nome) {
 
     // The binary open creates a name that does not exist.
     QFile arquivo(nome);
+    // A folder, a pipe or a device is no file of bets: it can't be read
+    // whole, and a pipe would wait for a writer forever.
+    const QFileInfo info(nome);
+    if (info.exists() && !info.isFile()) falhaAbertura(nome);
     const bool aberto =
-        QFileInfo::exists(nome) ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
-    if (!aberto || QFileInfo(nome).isDir()) falhaAbertura(nome);
+        info.exists() ? arquivo.open(QIODevice::ReadOnly) : arquivo.open(QIODevice::ReadWrite);
+    if (!aberto || arquivo.isSequential()) falhaAbertura(nome);
     Leitor l(arquivo);
     // The name is upper-cased as the program writes it, so that a file
     // written by hand ("Quina") behaves as one of the program's ("QUINA").
     e.NomeLoteria = l.texto().toUpper();
     ConfiguraLoteria(p, e.NomeLoteria);
-    CarregaMarcados(p, l.texto());
-    leRtf(l.campo(), t.TxtBanco);
+    CarregaMarcados(p, marcasDe(l.campo(), true));
+    const Campo rtf = l.campo();
+    leRtf(rtf.bytes, t.TxtBanco, rtf.brancos);
     t.TxtQuantApostas.Text = l.texto();
     t.TxtValorApostas.Text = l.texto();
     // Only the characters that CarregaVetBan can reach are decoded.
-    const QByteArray vetBan = l.campo();
-    const QString textoVetBan =
-        cp1252::decodifica(vetBan.constData(), std::min<int64_t>(vetBan.size(), UltimaPosicaoVetBan + 1));
-    e.QuantBan = Int32::de(valorNumerico(l.texto()));
+    const QString textoVetBan = cp1252::decodifica(l.campo().inicio(UltimaPosicaoVetBan + 1));
+    // Blanks are left out of a number: those past the end change nothing.
+    e.QuantBan = Int32::de(valorNumerico(cp1252::decodifica(l.campo().bytes)));
     CarregaVetBan(p, textoVetBan);
     e.TextoEstatistica = l.texto();
     e.DezEscolhidas = l.texto();
     e.Historico = l.texto();
-    CarregaFixos(p, l.texto());
+    CarregaFixos(p, marcasDe(l.campo(), false));
     t.TxtValAp.Text = l.texto();
     defineSpin(t.SpbDezAp, t.TxtDezAp, l.texto());
     defineSpin(t.SpbDezAp2, t.TxtDezAp2, l.texto());

@@ -18,8 +18,10 @@
 
 namespace sorvelo {
 
-// The largest text the reader will allocate for one field: 1 GiB.
-constexpr int64_t LimiteTextoArquivoPadrao = int64_t(1) << 30;
+// The largest text the reader will take for one field: 256 MiB. A text past
+// the end of the file costs only what its result needs: the blanks that
+// stand for the missing bytes are not made where they change nothing.
+constexpr int64_t LimiteTextoArquivoPadrao = int64_t(256) << 20;
 // The bound in force (tests and the fuzzing harness lower it).
 extern int64_t LimiteTextoArquivo;
 
@@ -30,7 +32,7 @@ void NovoArquivo(Nucleo& p);
 void SalvarArquivo(Nucleo& p);
 // Salvar Como: the name forgotten, then Salvar.
 void SalvarArquivoComo(Nucleo& p);
-// Writes the file, deleting the old one first.
+// Writes the file: the old one is replaced only by a complete new one.
 void GravaArquivo(Nucleo& p, const QString& Nome);
 // Abrir: empties the bank, asks for a name, reads the sixteen fields.
 void AbrirArquivo(Nucleo& p);

@@ -1,7 +1,8 @@
 // The 8-bit code page of the bet file (Windows-1252): one byte per
-// character. The tables come from the platform's own converter; a character
-// that the code page cannot hold is written as "?", as the system's
-// conversion to the code page does.
+// character, by a fixed table of the 256 bytes. The five bytes the code page
+// leaves undefined are the C1 control characters of the same number both
+// ways, so every byte survives a round trip; a character that the code page
+// cannot hold is written as "?", as the system's conversion to it does.
 #pragma once
 
 #include <QByteArray>

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <deque>
 #include <new>
 #include <string>
 #include <string_view>
@@ -216,7 +217,7 @@ const std::unordered_map<std::string_view, Palavra>& palavras() {
     return tabela;
 }
 
-enum class Destino { Texto, Ignorado, Cores };
+enum class Destino : uint8_t { Texto, Ignorado, Cores };
 
 struct Grupo {
     Destino destino = Destino::Texto;
@@ -224,16 +225,37 @@ struct Grupo {
     Formato formato;
 };
 
+// A group's state in 8 bytes: colour (24 bits), bold, destination, \uc.
+uint64_t empacota(const Grupo& g) {
+    return uint64_t(g.formato.cor & 0xFFFFFF) | uint64_t(g.formato.negrito) << 24 |
+           uint64_t(g.destino) << 25 | uint64_t(g.uc) << 27;
+}
+Grupo desempacota(uint64_t v) {
+    return {Destino((v >> 25) & 3), int64_t(v >> 27), Formato{Cor(v & 0xFFFFFF), ((v >> 24) & 1) != 0}};
+}
+
+// Characters gathered before they go to the document in one piece.
+constexpr qsizetype PedacoMaximo = 1 << 16;
+
+// The reader keeps, per open group, one bit; a group's state takes 8 bytes
+// only when the group changes it, which costs at least three bytes of input
+// ("{" and a control word). The colour table keeps only the entries that
+// have a colour, 8 bytes each for at least six bytes of input. So the work
+// of reading stays within a few bytes per byte read, beside the document.
 class Leitor {
 public:
-    explicit Leitor(const QByteArray& rtf) : d_(rtf.constData()), n_(rtf.size()) {}
+    // The text is rtf followed by `brancos` blanks.
+    Leitor(const QByteArray& rtf, int64_t brancos)
+        : d_(rtf.constData()), reais_(rtf.size()), n_(rtf.size() + brancos) {}
     void le(DocumentoRico& saida);
 
 private:
+    char em(int64_t i) const { return i < reais_ ? d_[i] : ' '; }
     void controle();
     void palavra(std::string_view nome, bool temParametro, int64_t parametro);
     void simbolo(char c);
     void textoCru(char c);
+    void brancos(int64_t k);
     void emite(char16_t c);
     void descarrega();
     bool pulaReserva() {
@@ -241,14 +263,23 @@ private:
         --pular_;
         return true;
     }
-    Grupo& grupo() { return pilha_.back(); }
+    Grupo grupo() const { return desempacota(estados_.back()); }
+    void muda(const Grupo& g);
+    void abreGrupo() { proprio_.push_back(false); }
+    void fechaGrupo() {
+        if (proprio_.back()) estados_.pop_back();
+        proprio_.pop_back();
+    }
+    Cor corDaTabela(int64_t indice) const;
 
     const char* d_;
+    int64_t reais_;
     int64_t n_;
     int64_t i_ = 0;
-    std::vector<Grupo> pilha_{Grupo{}};
-    std::vector<Cor> cores_;
-    std::vector<bool> automatica_;
+    std::deque<uint64_t> estados_{empacota(Grupo{})};
+    std::vector<bool> proprio_{true};
+    std::deque<uint64_t> cores_; // index << 24 | colour, of the entries with a colour
+    int64_t quantCores_ = 0;
     Cor corEntrada_ = 0;
     bool entradaTemCor_ = false;
     int64_t pular_ = 0; // characters of a \u fallback still to skip
@@ -257,18 +288,41 @@ private:
     DocumentoRico lido_;
 };
 
+void Leitor::muda(const Grupo& g) {
+    const uint64_t v = empacota(g);
+    if (v == estados_.back()) return;
+    if (proprio_.back()) {
+        estados_.back() = v;
+    } else {
+        estados_.push_back(v);
+        proprio_.back() = true;
+    }
+}
+
+Cor Leitor::corDaTabela(int64_t indice) const {
+    const auto it = std::lower_bound(cores_.begin(), cores_.end(), uint64_t(indice) << 24);
+    if (it == cores_.end() || int64_t(*it >> 24) != indice) return 0; // "auto"
+    return Cor(*it & 0xFFFFFF);
+}
+
 void Leitor::le(DocumentoRico& saida) {
     while (i_ < n_) {
+        if (i_ >= reais_) {
+            // Only blanks are left, each a character of the text.
+            brancos(n_ - i_);
+            i_ = n_;
+            break;
+        }
         const char c = d_[i_];
         if (c == '{') {
             ++i_;
             pular_ = 0;
-            pilha_.push_back(grupo());
+            abreGrupo();
         } else if (c == '}') {
             ++i_;
             pular_ = 0;
-            pilha_.pop_back();
-            if (pilha_.size() == 1) break; // the document's own group closed
+            fechaGrupo();
+            if (proprio_.size() == 1) break; // the document's own group closed
         } else if (c == '\\') {
             controle();
         } else {
@@ -278,7 +332,7 @@ void Leitor::le(DocumentoRico& saida) {
     }
     descarrega();
     saida.defineTexto(QString());
-    if (lido_.comprimento() > 0) saida.acrescenta(lido_);
+    if (lido_.comprimento() > 0) saida.acrescentaTomando(lido_);
 }
 
 void Leitor::controle() {
@@ -286,26 +340,26 @@ void Leitor::controle() {
     if (i_ >= n_) return;
     const auto letra = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
     const auto digito = [](char c) { return c >= '0' && c <= '9'; };
-    if (!letra(d_[i_])) {
-        simbolo(d_[i_++]);
+    if (!letra(em(i_))) {
+        simbolo(em(i_++));
         return;
     }
     const int64_t inicio = i_;
-    while (i_ < n_ && letra(d_[i_]))
+    while (i_ < n_ && letra(em(i_)))
         ++i_;
     const std::string_view nome(d_ + inicio, size_t(i_ - inicio));
     bool negativo = false, temParametro = false;
     int64_t parametro = 0;
-    if (i_ + 1 < n_ && d_[i_] == '-' && digito(d_[i_ + 1])) {
+    if (i_ + 1 < n_ && em(i_) == '-' && digito(em(i_ + 1))) {
         negativo = true;
         ++i_;
     }
-    while (i_ < n_ && digito(d_[i_])) {
+    while (i_ < n_ && digito(em(i_))) {
         temParametro = true;
-        if (parametro < 100000000000LL) parametro = parametro * 10 + (d_[i_] - '0');
+        if (parametro < 100000000000LL) parametro = parametro * 10 + (em(i_) - '0');
         ++i_;
     }
-    if (i_ < n_ && d_[i_] == ' ') ++i_;
+    if (i_ < n_ && em(i_) == ' ') ++i_;
     palavra(nome, temParametro, negativo ? -parametro : parametro);
 }
 
@@ -319,7 +373,7 @@ void Leitor::palavra(std::string_view nome, bool temParametro, int64_t parametro
         return;
     }
     if (pulaReserva()) return;
-    Grupo& g = grupo();
+    Grupo g = grupo();
     if (g.destino == Destino::Ignorado) return;
     if (g.destino == Destino::Cores) {
         const int64_t valor = std::clamp<int64_t>(parametro, 0, 255);
@@ -351,10 +405,7 @@ void Leitor::palavra(std::string_view nome, bool temParametro, int64_t parametro
         emite(p.caractere);
         break;
     case Acao::Cor:
-        if (parametro > 0 && parametro < int64_t(cores_.size()) && !automatica_[size_t(parametro)])
-            g.formato.cor = cores_[size_t(parametro)];
-        else
-            g.formato.cor = 0;
+        g.formato.cor = parametro > 0 ? corDaTabela(parametro) : 0;
         break;
     case Acao::Negrito:
         g.formato.negrito = !temParametro || parametro != 0;
@@ -372,7 +423,7 @@ void Leitor::palavra(std::string_view nome, bool temParametro, int64_t parametro
     case Acao::TabelaCores:
         g.destino = Destino::Cores;
         cores_.clear();
-        automatica_.clear();
+        quantCores_ = 0;
         corEntrada_ = 0;
         entradaTemCor_ = false;
         break;
@@ -382,6 +433,7 @@ void Leitor::palavra(std::string_view nome, bool temParametro, int64_t parametro
     default:
         break;
     }
+    muda(g);
 }
 
 void Leitor::simbolo(char c) {
@@ -389,7 +441,7 @@ void Leitor::simbolo(char c) {
         // Up to two hexadecimal digits: one byte of the code page.
         int valor = 0, digitos = 0;
         while (digitos < 2 && i_ < n_) {
-            const char h = d_[i_];
+            const char h = em(i_);
             int v;
             if (h >= '0' && h <= '9')
                 v = h - '0';
@@ -414,9 +466,12 @@ void Leitor::simbolo(char c) {
     case '}':
         textoCru(c);
         break;
-    case '*':
-        grupo().destino = Destino::Ignorado;
+    case '*': {
+        Grupo g = grupo();
+        g.destino = Destino::Ignorado;
+        muda(g);
         break;
+    }
     case '~':
         emite(u'\u00A0');
         break;
@@ -436,11 +491,10 @@ void Leitor::simbolo(char c) {
 void Leitor::textoCru(char c) {
     if (c == '\r' || c == '\n') return;
     if (pulaReserva()) return;
-    Grupo& g = grupo();
-    if (g.destino == Destino::Cores) {
+    if (grupo().destino == Destino::Cores) {
         if (c == ';') {
-            cores_.push_back(corEntrada_);
-            automatica_.push_back(!entradaTemCor_);
+            if (entradaTemCor_) cores_.push_back(uint64_t(quantCores_) << 24 | corEntrada_);
+            ++quantCores_;
             corEntrada_ = 0;
             entradaTemCor_ = false;
         }
@@ -452,31 +506,53 @@ void Leitor::textoCru(char c) {
         emite(cp1252::caractere(uint8_t(c)));
 }
 
+void Leitor::brancos(int64_t k) {
+    const int64_t pulados = std::min(k, pular_);
+    pular_ -= pulados;
+    k -= pulados;
+    const Grupo g = grupo();
+    if (g.destino != Destino::Texto) return;
+    descarrega();
+    while (k > 0) {
+        const qsizetype parte = qsizetype(std::min<int64_t>(k, PedacoMaximo));
+        lido_.acrescenta(QString(parte, u' '), g.formato);
+        k -= parte;
+    }
+}
+
 void Leitor::emite(char16_t c) {
-    const Grupo& g = grupo();
+    const Grupo g = grupo();
     if (g.destino != Destino::Texto) return;
     if (!(g.formato == formatoPedaco_)) {
         descarrega();
         formatoPedaco_ = g.formato;
     }
     pedaco_.append(QChar(c));
+    if (pedaco_.size() >= PedacoMaximo) descarrega();
 }
 
 void Leitor::descarrega() {
     if (pedaco_.isEmpty()) return;
     lido_.acrescenta(pedaco_, formatoPedaco_);
-    pedaco_.clear();
+    pedaco_.resize(0);
 }
 
 } // namespace
 
-void leRtf(const QByteArray& rtf, DocumentoRico& documento) {
+void leRtf(const QByteArray& rtf, DocumentoRico& documento, int64_t brancosNoFim) {
+    // Blanks can't begin "{\\rtf": the bytes alone decide.
     if (!rtf.startsWith("{\\rtf")) {
-        documento.defineTexto(cp1252::decodifica(rtf));
+        try {
+            QString texto = cp1252::decodifica(rtf);
+            if (brancosNoFim > 0) texto.append(QString(brancosNoFim, u' '));
+            documento.defineTexto(texto);
+        } catch (const std::bad_alloc&) {
+            throw FalhaExecucao(erro::MemoriaInsuficiente);
+        }
         return;
     }
     try {
-        Leitor(rtf).le(documento);
+        Leitor(rtf, std::max<int64_t>(brancosNoFim, 0)).le(documento);
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }

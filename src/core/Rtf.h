@@ -22,7 +22,11 @@ QByteArray escreveRtf(const DocumentoRico& documento);
 // colour table's entry (cf0 and unknown entries are black); \b, \b0,
 // \plain, \par, \line, \tab, \'hh, \uN with its \ucN fallback, \~, \_ and
 // the named quotes and dashes are understood. A text that does not begin
-// with "{\rtf" is taken as plain text in the code page.
-void leRtf(const QByteArray& rtf, DocumentoRico& documento);
+// with "{\rtf" is taken as plain text in the code page. The text read is rtf
+// followed by `brancosNoFim` blanks, which are not made where they change
+// nothing (after the document's group closes, or skipped as \u fallback).
+// The reading takes time in proportion to the text, and besides the
+// document it builds, at most a few bytes of memory per byte of the text.
+void leRtf(const QByteArray& rtf, DocumentoRico& documento, int64_t brancosNoFim = 0);
 
 } // namespace sorvelo

@@ -90,6 +90,18 @@ void selecionaAoFocar(QLineEdit* caixa, const QFocusEvent* e) {
     });
 }
 
+CaixaCombinacao::CaixaCombinacao(QWidget* pai) : QComboBox(pai) {
+    connect(this, &QComboBox::activated, this, [this](int i) {
+        if (!saindo_) emit escolhido(i);
+    });
+}
+
+void CaixaCombinacao::focusOutEvent(QFocusEvent* e) {
+    saindo_ = true;
+    QComboBox::focusOutEvent(e);
+    saindo_ = false;
+}
+
 void FiltroEnter::instala() {
     static FiltroEnter* filtro = nullptr;
     if (filtro || !qApp) return;

@@ -2,6 +2,7 @@
 // picture, and the filter that makes Enter move the focus.
 #pragma once
 
+#include <QComboBox>
 #include <QLabel>
 #include <QObject>
 #include <QWidget>
@@ -77,6 +78,25 @@ protected:
 // SelecionaTexto on a box that gets the focus: all its text selected (after
 // the press, when the mouse brought the focus).
 void selecionaAoFocar(QLineEdit* caixa, const QFocusEvent* e);
+
+// A combo box whose `escolhido` comes only from the choice of an item (in
+// its list, by mouse or keys, or by the arrow keys on the box), the click of
+// the box; QComboBox also reports as activated a typed text that names an
+// item when the focus leaves the box, and that is no click.
+class CaixaCombinacao : public QComboBox {
+    Q_OBJECT
+public:
+    explicit CaixaCombinacao(QWidget* pai = nullptr);
+
+signals:
+    void escolhido(int indice);
+
+protected:
+    void focusOutEvent(QFocusEvent* e) override;
+
+private:
+    bool saindo_ = false;
+};
 
 // Enter, in a window of the program, is swallowed and a Tab takes its place.
 class FiltroEnter : public QObject {

@@ -99,6 +99,10 @@ Sorvelo::Sorvelo(Programa& p, JanelasFormas& janelas, QWidget* pai)
 Sorvelo::~Sorvelo() {
     // The windows that refer to this one's state go first.
     janelas_.apagaTodas();
+    // The controls still signal while they are taken down (the focus leaving
+    // a box); nothing of this window may answer them any more.
+    for (QObject* filho : findChildren<QObject*>())
+        QObject::disconnect(filho, nullptr, this, nullptr);
 }
 
 template <typename F> void Sorvelo::age(F f) {
@@ -311,7 +315,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     reduz->setToolTip(QStringLiteral("Faz uma combinação reduzida com os números escolhidos"));
     liga(reduz, &QPushButton::clicked, [this] { BtnReduz(p_); });
     rotulo(frame5_, QStringLiteral("Garantia de:"), 240, 810, 1000, 255);
-    cmbGarantia_ = poe(new QComboBox, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
+    auto* garantia = poe(new CaixaCombinacao, frame5_, "CmbGarantia", 1260, 750, 1215, 315);
+    cmbGarantia_ = garantia;
     cmbGarantia_->setEditable(true);
     cmbGarantia_->addItems(itensGarantia(20));
     rotulo(frame5_, QStringLiteral("Se acertar"), 2640, 810, 840, 255);
@@ -336,7 +341,8 @@ void Sorvelo::montaQuadrosCombinacao() {
     giro(spbDezAp_, p_.tela.SpbDezAp, p_.tela.TxtDezAp, txtDezAp_);
     giro(spbDezAp2_, p_.tela.SpbDezAp2, p_.tela.TxtDezAp2, txtDezAp2_);
     vincula(cmbGarantia_, p_.tela.CmbGarantia);
-    liga(cmbGarantia_, &QComboBox::activated, [this](int) {
+    // Only a click on an item derives CmbAcertar, not a Tab through the box.
+    liga(garantia, &CaixaCombinacao::escolhido, [this](int) {
         p_.tela.CmbGarantia.Text = cmbGarantia_->currentText();
         CliqueGarantia(p_);
     });

@@ -8,10 +8,13 @@
 namespace sorvelo {
 
 uint16_t DocumentoRico::indiceFormato(Formato f) {
-    for (size_t i = 0; i < formatos_.size(); ++i)
-        if (formatos_[i] == f) return uint16_t(i);
+    if (!formatos_.empty() && formatos_.back() == f) return uint16_t(formatos_.size() - 1);
+    const uint64_t chave = uint64_t(f.cor) | uint64_t(f.negrito) << 32;
+    const auto it = indices_.find(chave);
+    if (it != indices_.end()) return it->second;
     if (formatos_.size() >= 0xFFFF) throw FalhaExecucao(erro::MemoriaInsuficiente);
     formatos_.push_back(f);
+    indices_.emplace(chave, uint16_t(formatos_.size() - 1));
     return uint16_t(formatos_.size() - 1);
 }
 
@@ -62,6 +65,21 @@ void DocumentoRico::acrescenta(const DocumentoRico& outro) {
     }
     texto_.append(outro.texto_);
     indexaLinhas(base);
+    mudou();
+}
+
+void DocumentoRico::acrescentaTomando(DocumentoRico& outro) {
+    if (!texto_.isEmpty()) {
+        acrescenta(outro);
+        return;
+    }
+    // Nothing here refers to formatos_ while the text is empty.
+    texto_.swap(outro.texto_);
+    trechos_.swap(outro.trechos_);
+    formatos_.swap(outro.formatos_);
+    indices_.swap(outro.indices_);
+    iniciosLinha_.swap(outro.iniciosLinha_);
+    outro.defineTexto(QString());
     mudou();
 }
 

@@ -8,6 +8,8 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 namespace sorvelo {
@@ -53,6 +55,9 @@ public:
     void acrescenta(QStringView pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
     // Appends another document at the end, keeping its runs.
     void acrescenta(const DocumentoRico& outro);
+    // The same, taking the other's content instead of copying it when this
+    // one is empty (the other is left empty).
+    void acrescentaTomando(DocumentoRico& outro);
     // Replaces the characters inicio to fim - 1 by `novo` in the given
     // format (a person's edit): only the lines of the edit are read again.
     void substitui(int64_t inicio, int64_t fim, QStringView novo, Formato formato);
@@ -96,6 +101,7 @@ private:
     // Each run: start position << 16 | index in formatos_.
     std::vector<uint64_t> trechos_;
     std::vector<Formato> formatos_;
+    std::unordered_map<uint64_t, uint16_t> indices_; // of formatos_, by format
     std::vector<int64_t> iniciosLinha_{0};
     bool visivel_ = true;
     uint64_t versao_ = 0;

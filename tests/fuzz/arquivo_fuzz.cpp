@@ -30,9 +30,11 @@ QString pastaDeTrabalho() {
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    // The reader's bound on one text is 1 GiB; a length of nine digits
-    // would make every run allocate and fill that much. Lowered here so
-    // that the failure 7 path is reached at once and runs stay fast.
+    // The reader's bound on one text is 256 MiB; a name field of that
+    // length past the end of the file is read as that many blanks, which
+    // would make every run allocate and fill that much. Lowered here to the
+    // largest input the fuzzer makes (-max_len), so that the failure 7 path
+    // is reached at once and runs stay fast.
     LimiteTextoArquivo = int64_t(1) << 20;
     return 0;
 }

@@ -94,6 +94,8 @@ QString clica(QObject* controle) {
 
 QString digita(QWidget* controle, const QString& texto) {
     if (!controle->isVisible()) return QStringLiteral("o controle está oculto");
+    // A person can't type into a disabled box; the keys would go elsewhere.
+    if (!controle->isEnabled()) return QStringLiteral("o controle está desabilitado");
     focaliza(controle, Qt::OtherFocusReason);
     selecionaTudo(controle);
     for (QChar c : texto)
@@ -119,6 +121,7 @@ QString tecla(QWidget* controle, const QString& nome) {
     for (const Tecla& t : teclas) {
         if (nome != QStringView(t.nome)) continue;
         if (!controle->isVisible()) return QStringLiteral("o controle está oculto");
+        if (!controle->isEnabled()) return QStringLiteral("o controle está desabilitado");
         focaliza(controle, Qt::OtherFocusReason);
         teclaEvento(controle, t.codigo, QString::fromUtf16(t.texto));
         return QString();

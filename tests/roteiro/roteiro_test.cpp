@@ -198,6 +198,22 @@ TEST(NaCedencia, SemLinhaQueAjaAntesEErro) {
     EXPECT_EQ(r.transcricao, QStringLiteral("erro linha 1: na_cedencia vem logo depois da linha que age\n"));
 }
 
+// A person can't type into a disabled box: the line is refused, and the
+// keys don't go to the box that has the focus.
+TEST(ControleDesabilitado, DigitarEErroDaLinha) {
+    const Execucao r = roda("estado CmbAcertar\ndigita TxtValAp \"9\"\ndigita CmbAcertar \"xy\"\n");
+    EXPECT_EQ(r.status, 2);
+    EXPECT_EQ(
+        r.transcricao,
+        QStringLiteral("CmbAcertar: visível desabilitado\nerro linha 3: o controle está desabilitado\n"));
+}
+
+TEST(ControleDesabilitado, TeclaEErroDaLinha) {
+    const Execucao r = roda("tecla CmbAcertar Tab\n");
+    EXPECT_EQ(r.status, 2);
+    EXPECT_EQ(r.transcricao, QStringLiteral("erro linha 1: o controle está desabilitado\n"));
+}
+
 TEST(Formas, ModalAnunciadaEComandadaPorDentroDoSeuLaco) {
     const Execucao r = roda("clica BtnAbreModal\ndigita TxtEscolhidos \"abc\"\nmostra TxtEscolhidos\n"
                             "mostra Sorvelo.TxtEscolhidos\nestado DialogoTeste.BtnOK\nclica BtnOK\n"
