@@ -2,10 +2,10 @@
 // 100,000-bet Mega-Sena bank at threshold 4; the listing of a 1,000,000-bet
 // bank built and shown in the rich-text view; that listing printed to PDF.
 // Prints the figures; asserts nothing about time.
+#include "apoio/Duplos.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "forms/RelBanco.h"
-#include "apoio/Duplos.h"
 #include "platform/qt/ServicosQt.h"
 #include "relatorios/EntraTexto.h"
 #include "relatorios/Estatisticas.h"

@@ -10,12 +10,12 @@
 // - the elimination of 2 numbers from every bet of the 1,107,568, rewrite
 //   of the bank included.
 // Usage: filtro_bench [igual|todos|janela|lotomania|quadratica|elimina]  (default: all)
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
 #include "edicao/Eliminar.h"
 #include "edicao/Filtrar.h"
 #include "forms/Filtrar.h"
-#include "apoio/Duplos.h"
 #include "platform/qt/ServicosQt.h"
 
 #include "../tests/unit/ReferenciaFiltro.h"

@@ -3,10 +3,10 @@
 // colour changes on one line; and the time of saving a large bank. The peak
 // is the resident size above the start (Linux, /proc/self). Prints the best
 // and the median of several runs.
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/Principal.h"
 #include "core/Rtf.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <QDir>

@@ -4,11 +4,11 @@
 // (reading, checking, both forms of the bank). Each measure is repeated; the
 // best and the median are given.
 // Usage: importacao_bench [bets] [repetitions]  (default 1000000 5)
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
 #include "edicao/Importar.h"
 #include "edicao/LeitorApostas.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 #include "relatorios/Exportar.h"
 

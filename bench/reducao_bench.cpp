@@ -7,6 +7,7 @@
 // The real windows run offscreen, and the yields go through the program's
 // own yield service.
 #include "../tests/unit/ReducaoReferencia.h"
+#include "apoio/Duplos.h"
 #include "combinacoes/Module2.h"
 #include "combinacoes/Reducao.h"
 #include "core/Grade.h"
@@ -14,7 +15,6 @@
 #include "core/Principal.h"
 #include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
 
 #include "platform/qt/ServicosQt.h"
 

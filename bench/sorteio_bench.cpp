@@ -2,11 +2,11 @@
 // Mega-Sena bets of 15 numbers appended to a bank that already holds a
 // million bets, then 1,000 typed bets moved from the pending list into it.
 // Usage: sorteio_bench [bets already in the bank]  (default 1000000)
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
 #include "edicao/Digitacao.h"
 #include "edicao/Sortear.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <array>

@@ -4,15 +4,15 @@
 // block of 10,001 rows that goes to the bank. The yields go through the
 // program's own yield service (it runs the message loop at most every
 // 10 ms). Prints the best and the median of several runs.
+#include "apoio/Duplos.h"
 #include "combinacoes/LeituraSuper.h"
 #include "combinacoes/SuperReducao.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Module1.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
-#include "programa/Programa.h"
 #include "platform/qt/ServicosQt.h"
+#include "programa/Programa.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "combinacoes/InsereVetorReduz.h"
 
-#include "core/BancoApostas.h"
 #include "combinacoes/Reducao.h"
+#include "core/BancoApostas.h"
 
 #include <algorithm>
 #include <new>

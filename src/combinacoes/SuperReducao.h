@@ -6,8 +6,8 @@
 // its cancel button.
 #pragma once
 
-#include "core/Estado.h"
 #include "combinacoes/LeituraSuper.h"
+#include "core/Estado.h"
 
 #include <QByteArray>
 #include <QStringList>

@@ -3,10 +3,10 @@
 #include "core/BancoApostas.h"
 #include "core/Cp1252.h"
 #include "core/Grade.h"
+#include "core/GravacaoAtomica.h"
 #include "core/Loteria.h"
 #include "core/Module1.h"
 #include "core/Rtf.h"
-#include "core/GravacaoAtomica.h"
 
 #include <QDir>
 #include <QFile>

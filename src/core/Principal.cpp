@@ -1,9 +1,9 @@
 #include "core/Principal.h"
 
+#include "core/ArquivoApostas.h"
 #include "core/Loteria.h"
 #include "core/Module1.h"
 #include "core/SistemaOperacional.h"
-#include "core/ArquivoApostas.h"
 
 #include <QDir>
 

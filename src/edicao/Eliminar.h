@@ -39,7 +39,6 @@ public:
 private:
     void eliminaDaAposta(int64_t linha, int n, int q);
     void contaECede(int64_t feitas);
-
 };
 
 // "Eliminação de números" of the main window: the dialog, shown modally by

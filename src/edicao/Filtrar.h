@@ -6,9 +6,9 @@
 // The form binds the controls below and forwards the clicks.
 #pragma once
 
-#include "edicao/ApostasIguais.h"
 #include "core/Estado.h"
 #include "core/LogicaDialogo.h"
+#include "edicao/ApostasIguais.h"
 
 #include <array>
 #include <functional>

@@ -195,5 +195,4 @@ void Importar::BtnCancelar() {
     fecha();
 }
 
-
 } // namespace sorvelo

@@ -3,8 +3,8 @@
 // bank only when the player confirms. The form binds the controls below.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 #include "edicao/LeitorApostas.h"
 
 #include <functional>

@@ -3,8 +3,8 @@
 // a yield after every pass so that the grid paints as it fills.
 #pragma once
 
-#include "core/Estado.h"
 #include "base/MatrizTexto.h"
+#include "core/Estado.h"
 #include "core/LogicaDialogo.h"
 
 #include <functional>

@@ -1,8 +1,8 @@
 #include "forms/Apresenta.h"
 
+#include "core/ArquivoInicial.h"
 #include "forms/Ilustracoes.h"
 #include "forms/Sorvelo.h"
-#include "core/ArquivoInicial.h"
 
 #include <QCloseEvent>
 #include <QPushButton>

@@ -2,8 +2,8 @@
 // parameters and the run of the generator.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "combinacoes/CombinacaoReduzida.h"
+#include "forms/Formulario.h"
 
 class QProgressBar;
 

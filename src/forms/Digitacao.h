@@ -3,8 +3,8 @@
 // pending list, and moves the list into the bank in one step.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/Digitacao.h"
+#include "forms/Formulario.h"
 
 #include <array>
 

@@ -4,8 +4,8 @@
 // clicked and closed meanwhile: the form stays alive until the run returns.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/Eliminar.h"
+#include "forms/Formulario.h"
 
 class QLineEdit;
 
@@ -16,7 +16,6 @@ class JanelaEliminar : public Formulario {
 public:
     explicit JanelaEliminar(Programa& p, QWidget* pai = nullptr);
     void atualizaTela() override;
-
 
 private:
     Eliminar e_;

@@ -1,7 +1,7 @@
 #include "forms/Filtrar.h"
 
-#include <QCheckBox>
 #include "forms/Janelas.h"
+#include <QCheckBox>
 
 #include <QGroupBox>
 #include <QLineEdit>

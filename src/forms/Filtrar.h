@@ -5,8 +5,8 @@
 // which gives the message loop no turn, goes on.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/Filtrar.h"
+#include "forms/Formulario.h"
 #include "platform/qt/RepinturaQt.h"
 
 #include <array>
@@ -22,7 +22,6 @@ class JanelaFiltrar : public Formulario {
 public:
     explicit JanelaFiltrar(Programa& p, QWidget* pai = nullptr);
     void atualizaTela() override;
-
 
 private:
     Filtrar f_;

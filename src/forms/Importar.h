@@ -3,8 +3,8 @@
 // append the valid bets to the bank or to cancel.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/Importar.h"
+#include "forms/Formulario.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -28,6 +28,5 @@ private:
     QPlainTextEdit* txtRelatorio_;
     QPushButton* btnImportar_;
 };
-
 
 } // namespace sorvelo

@@ -5,8 +5,8 @@
 
 #include "forms/ConfApostas.h"
 #include "forms/Digitacao.h"
-#include "forms/JogoAJogo.h"
 #include "forms/JanelaNaoModal.h"
+#include "forms/JogoAJogo.h"
 #include "platform/Dialogos.h"
 #include "programa/Programa.h"
 

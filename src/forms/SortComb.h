@@ -3,8 +3,8 @@
 // one, so that the person sees them appear.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/SortComb.h"
+#include "forms/Formulario.h"
 
 class QLineEdit;
 class QScrollBar;

@@ -3,8 +3,8 @@
 // stay on the dialog without effect.
 #pragma once
 
-#include "forms/Formulario.h"
 #include "edicao/Sortear.h"
+#include "forms/Formulario.h"
 
 #include <array>
 

@@ -1,22 +1,22 @@
 #include "forms/Sorvelo.h"
 
-#include "forms/Controles.h"
-#include "forms/Desenhos.h"
-#include "forms/Protecao.h"
 #include "combinacoes/Combinacao.h"
-#include "edicao/Importar.h"
-#include "relatorios/Ajuda.h"
-#include "edicao/Eliminar.h"
-#include "edicao/Filtrar.h"
 #include "combinacoes/CombinacaoReduzida.h"
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
+#include "edicao/Eliminar.h"
+#include "edicao/Filtrar.h"
+#include "edicao/Importar.h"
 #include "edicao/Sortear.h"
+#include "forms/Controles.h"
+#include "forms/Desenhos.h"
 #include "forms/Janelas.h"
+#include "forms/Protecao.h"
 #include "platform/qt/AreaRica.h"
+#include "relatorios/Ajuda.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Exportar.h"
 #include "relatorios/Sobre.h"
@@ -165,8 +165,7 @@ void Sorvelo::montaMenus() {
     item(internet, "MenuNovidades", QStringLiteral("Novidades"), [this] { MenuNovidades(p_); });
     QMenu* ajuda = menu("MenuAjuda", QStringLiteral("Aj&uda"));
     item(ajuda, "MenuTopicos", QStringLiteral("Tópicos da ajuda"), [this] { p_.dialogos.mostraTopicos(); });
-    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"),
-         [this] { p_.dialogos.mostraSobre(); });
+    item(ajuda, "MenuSobre", QStringLiteral("Sobre o Sor Velo"), [this] { p_.dialogos.mostraSobre(); });
 }
 
 void Sorvelo::montaBarra() {

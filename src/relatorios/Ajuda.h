@@ -2,8 +2,8 @@
 // form `Topicos` and the tutorial document beside the program.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <QString>
 #include <QStringList>

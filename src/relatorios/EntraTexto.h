@@ -4,8 +4,8 @@
 // TextoDigitado, where "CANCELAR" means that the user gave up.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 namespace sorvelo {
 

@@ -4,8 +4,8 @@
 // how many bets reached each score from the threshold on.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #include "relatorios/GarantiaBanco.h"
 
-#include "core/BancoApostas.h"
 #include "base/Semantica.h"
+#include "core/BancoApostas.h"
 
 #include <algorithm>
 #include <cmath>

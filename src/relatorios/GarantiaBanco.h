@@ -4,8 +4,8 @@
 // Garantia.h; the listing goes to a rich-text view that "Imprimir" prints.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 #include "relatorios/Garantia.h"
 
 namespace sorvelo {

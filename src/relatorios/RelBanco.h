@@ -3,8 +3,8 @@
 // and a size for the whole listing; printing of the plain text.
 #pragma once
 
-#include "core/LogicaDialogo.h"
 #include "core/Estado.h"
+#include "core/LogicaDialogo.h"
 
 namespace sorvelo {
 

@@ -5,12 +5,12 @@
 // reasons kept at most 100; then the bets go into a fresh program's bank,
 // whose rows must read back as the bets. Never a crash, a sanitizer
 // report, a hang or unbounded memory.
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "edicao/Importar.h"
 #include "edicao/LeitorApostas.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <cstddef>

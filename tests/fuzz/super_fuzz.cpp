@@ -7,13 +7,13 @@
 // Reading must end with the bets in the bank, the box or the run-time
 // failure, never with a crash, a sanitizer report, a hang or unbounded
 // memory.
+#include "apoio/Duplos.h"
+#include "base/Semantica.h"
 #include "combinacoes/SuperReducao.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Module1.h"
 #include "core/Principal.h"
-#include "base/Semantica.h"
-#include "apoio/Duplos.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QDir>

@@ -1,18 +1,18 @@
 // The windows at the program's edge on their own, offscreen: the bet-by-bet
 // view, the help page, the topics and the about box.
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/ArquivoInicial.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "forms/Help.h"
-#include "forms/Topicos.h"
 #include "forms/Apresenta.h"
+#include "forms/Help.h"
 #include "forms/Janelas.h"
 #include "forms/JogoAJogo.h"
 #include "forms/Sobre.h"
 #include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
+#include "forms/Topicos.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -8,23 +8,23 @@
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
-#include "forms/Help.h"
-#include "forms/Topicos.h"
 #include "forms/Apresenta.h"
 #include "forms/Combinacoes.h"
 #include "forms/ConfApostas.h"
 #include "forms/Digitacao.h"
-#include "forms/SortComb.h"
+#include "forms/Help.h"
+#include "forms/Janelas.h"
 #include "forms/JogoAJogo.h"
 #include "forms/Sobre.h"
-#include "forms/Janelas.h"
+#include "forms/SortComb.h"
 #include "forms/Sorvelo.h"
+#include "forms/Topicos.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QScreen>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 using namespace sorvelo;

@@ -1,10 +1,10 @@
 // The dialog "Combinações super reduzidas" as a window: its controls, its
 // caption, and the run when it comes to the front.
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Principal.h"
 #include "forms/CombSuperReduz.h"
-#include "apoio/Duplos.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
 // The reduced combination through the real main window and dialogs.
+#include "apoio/Duplos.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "forms/CombinacoesReduz.h"
 #include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
 
 #include <QApplication>
 #include <QCheckBox>

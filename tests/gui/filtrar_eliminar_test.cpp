@@ -1,12 +1,12 @@
 // The dialogs Filtrar and Eliminar on their real widgets: the scroll bars'
 // direction and their boxes, the disabled boxes of Lotofácil, the counter
 // repainted a limited number of times, the quantity's two characters.
+#include "apoio/Duplos.h"
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "forms/Eliminar.h"
 #include "forms/Filtrar.h"
-#include "apoio/Duplos.h"
 #include "platform/qt/RepinturaQt.h"
 
 #include <QApplication>
@@ -29,9 +29,7 @@ namespace {
 struct Janelas : ::testing::Test {
     ServicosDuplos d;
     Programa p{d.servicos(), d.dialogos};
-    void SetUp() override {
-        CarregaPrincipal(p);
-    }
+    void SetUp() override { CarregaPrincipal(p); }
     void aposta(const QString& texto) {
         auto& e = p.e;
         e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor());

@@ -1,11 +1,11 @@
 // Only a choice of an item in CmbGarantia derives CmbAcertar: passing
 // through the box with Tab doesn't, nor does the window's destruction with
 // the focus in it.
-#include "core/Estado.h"
-#include "forms/Protecao.h"
-#include "forms/Janelas.h"
-#include "forms/Sorvelo.h"
 #include "apoio/Duplos.h"
+#include "core/Estado.h"
+#include "forms/Janelas.h"
+#include "forms/Protecao.h"
+#include "forms/Sorvelo.h"
 #include "programa/Programa.h"
 
 #include <QApplication>

@@ -1,15 +1,15 @@
 // The forms' geometry as it stands on the screen: every control placed in a
 // frame stands inside the frame's contents, below its caption and border,
 // and the main window's scroll bars stand where the layout puts them.
+#include "apoio/Duplos.h"
 #include "core/Estado.h"
 #include "forms/ConfApostas.h"
 #include "forms/Estatisticas.h"
 #include "forms/Filtrar.h"
+#include "forms/Janelas.h"
 #include "forms/Montagem.h"
 #include "forms/Sortear.h"
-#include "forms/Janelas.h"
 #include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
 #include "relatorios/Conferencia.h"
 #include "relatorios/Estatisticas.h"
 

@@ -1,11 +1,11 @@
 // The entries of import and export in the menu Arquivo, and the dialog of
 // the import on its real widgets, offscreen.
+#include "apoio/Duplos.h"
 #include "core/Estado.h"
 #include "forms/Importar.h"
-#include "forms/Protecao.h"
 #include "forms/Janelas.h"
+#include "forms/Protecao.h"
 #include "forms/Sorvelo.h"
-#include "apoio/Duplos.h"
 #include "platform/qt/ServicosQt.h"
 #include "relatorios/Exportar.h"
 

@@ -1,8 +1,8 @@
 // The desktop printer: with no printer on the system the job becomes a PDF
 // in the documents folder, opened through the desktop; read back with
 // pdftotext and pdffonts to prove the text, the font and the page breaks.
-#include "base/Semantica.h"
 #include "apoio/Duplos.h"
+#include "base/Semantica.h"
 #include "platform/qt/ServicosQt.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 // The window "Listagem do banco de apostas" on the real widgets: the fonts of
 // the system but the last, the font and the size of the whole listing in the
 // view, a size that is no number, the editable view.
+#include "apoio/Duplos.h"
 #include "core/Loteria.h"
 #include "core/Principal.h"
 #include "forms/RelBanco.h"
-#include "apoio/Duplos.h"
 #include "platform/qt/AreaRica.h"
 
 #include <QApplication>

@@ -12,9 +12,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QComboBox>
 #include <QListWidget>
 #include <QMenu>
 #include <QWidget>

@@ -2,14 +2,13 @@
 // with a bank written as the bank's writers write it.
 #pragma once
 
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
-#include "apoio/ProgramaTeste.h"
 
 #include <QStringList>
 
 namespace sorvelo::teste {
-
 
 struct BancoTeste : ProgramaTeste {
     explicit BancoTeste(const QString& jogo = QStringLiteral("Mega-Sena")) {

@@ -2,9 +2,9 @@
 // runs past the end of the file costs only what its result needs, and a path
 // that is no regular file ends like a folder does, without waiting.
 #include "MemoriaPico.h"
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <QFile>
@@ -30,9 +30,7 @@ QString u(const char* s) {
 struct Sessao {
     ServicosDuplos d;
     Programa p{d.servicos(), d.dialogos};
-    Sessao() {
-        CarregaPrincipal(p);
-    }
+    Sessao() { CarregaPrincipal(p); }
     void abre(const QString& caminho) {
         d.dialogo.enfileira(caminho);
         AbrirArquivo(p);

@@ -1,9 +1,9 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/ArquivoApostas.h"
 #include "core/ArquivoInicial.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
-#include "apoio/ProgramaTeste.h"
 
 #include "apoio/ImprimeQt.h"
 

@@ -10,8 +10,8 @@
 #include <set>
 
 using namespace sorvelo;
-using sorvelo::teste::ProgramaTeste;
 using sorvelo::teste::falhaDe;
+using sorvelo::teste::ProgramaTeste;
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The reduced combination from "Iniciar Combinação reduzida" to the bank,
 // with the dialogs driven as a user would and a fixed clock.
-#include "apoio/Combinacao.h"
 #include "ReducaoReferencia.h"
+#include "apoio/Combinacao.h"
 #include "combinacoes/CombinacaoReduzida.h"
 #include "combinacoes/InsereVetorReduz.h"
 

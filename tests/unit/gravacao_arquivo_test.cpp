@@ -1,10 +1,10 @@
 // Saving never loses the old file: the new content replaces it only when
 // complete, whatever fails on the way (a refused write at any field, a full
 // disk, a kill in the middle of a large save).
+#include "apoio/Duplos.h"
 #include "core/ArquivoApostas.h"
 #include "core/GravacaoAtomica.h"
 #include "core/Principal.h"
-#include "apoio/Duplos.h"
 #include "programa/Programa.h"
 
 #include <QDir>
@@ -35,9 +35,7 @@ QString u(const char* s) {
 struct Sessao {
     ServicosDuplos d;
     Programa p{d.servicos(), d.dialogos};
-    Sessao() {
-        CarregaPrincipal(p);
-    }
+    Sessao() { CarregaPrincipal(p); }
 };
 
 QByteArray conteudo(const QString& caminho) {

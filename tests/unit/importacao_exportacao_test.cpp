@@ -1,10 +1,10 @@
 // Bets in and out of the bank: the CSV, the plain text and the PDF written
 // from VetBan, the import of a file into both forms of the bank, the dialog
 // of the import as logic, and the failures on the way.
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
 #include "edicao/Importar.h"
-#include "apoio/ProgramaTeste.h"
 #include "relatorios/Exportar.h"
 #include "relatorios/RelBanco.h"
 

@@ -1,5 +1,5 @@
-#include "core/BancoApostas.h"
 #include "apoio/ProgramaTeste.h"
+#include "core/BancoApostas.h"
 #include "relatorios/JogoAJogo.h"
 
 #include "apoio/ImprimeQt.h"

@@ -1,8 +1,8 @@
 // Reading the super-reduction tables: the complement of the bytes, the game's
 // file and code, the key, its first occurrence and the reading of a block.
 #include "ApoioSuper.h"
-#include "core/Module1.h"
 #include "apoio/ProgramaTeste.h"
+#include "core/Module1.h"
 
 #include <gtest/gtest.h>
 

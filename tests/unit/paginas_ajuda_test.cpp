@@ -244,9 +244,8 @@ struct Topicos : ::testing::Test, ProgramaTeste {
     Topicos() {
         d.dialogos.quando(Dialogo::Help, [this] {
             ++mostradas;
-            paginas.push_back(MontaPaginaHelp(p.e.TopicoHelp.valor()).titulo.isEmpty()
-                                  ? -1
-                                  : int(p.e.TopicoHelp.valor()));
+            paginas.push_back(
+                MontaPaginaHelp(p.e.TopicoHelp.valor()).titulo.isEmpty() ? -1 : int(p.e.TopicoHelp.valor()));
         });
     }
 };

@@ -2,8 +2,8 @@
 // weaknesses, its failures, and the fast engine against the plain rule on
 // random cases.
 #include "ReducaoReferencia.h"
-#include "combinacoes/Reducao.h"
 #include "base/MatrizTexto.h"
+#include "combinacoes/Reducao.h"
 
 #include <gtest/gtest.h>
 

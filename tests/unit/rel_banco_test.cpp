@@ -7,8 +7,8 @@
 #include <random>
 
 using namespace sorvelo;
-using sorvelo::teste::ProgramaTeste;
 using sorvelo::teste::falhaDe;
+using sorvelo::teste::ProgramaTeste;
 
 namespace {
 

@@ -1,6 +1,6 @@
+#include "apoio/ProgramaTeste.h"
 #include "core/Principal.h"
 #include "core/SistemaOperacional.h"
-#include "apoio/ProgramaTeste.h"
 
 #include "apoio/ImprimeQt.h"
 

@@ -1,9 +1,9 @@
+#include "apoio/ImprimeQt.h"
+#include "apoio/ProgramaTeste.h"
 #include "core/BancoApostas.h"
 #include "core/Loteria.h"
 #include "edicao/Sortear.h"
 #include "edicao/SortearFormato.h"
-#include "apoio/ImprimeQt.h"
-#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 

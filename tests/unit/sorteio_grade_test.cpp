@@ -1,8 +1,8 @@
+#include "apoio/ImprimeQt.h"
+#include "apoio/ProgramaTeste.h"
 #include "core/Grade.h"
 #include "core/Loteria.h"
 #include "edicao/SortComb.h"
-#include "apoio/ImprimeQt.h"
-#include "apoio/ProgramaTeste.h"
 
 #include <gtest/gtest.h>
 
