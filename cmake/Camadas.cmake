@@ -21,6 +21,15 @@ function(sorvelo_expoe alvo base pasta)
   endif()
 endfunction()
 
+# The program's own sources (src/, not the code that moc writes) compile
+# with the strict warnings and without implicit conversions of 8-bit text.
+set(SORVELO_AVISOS_ESTRITOS -Wpedantic -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual)
+set(SORVELO_DEFINICOES_ESTRITAS QT_NO_CAST_FROM_ASCII QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+function(sorvelo_fontes_estritas)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "${SORVELO_AVISOS_ESTRITOS}"
+                                                 COMPILE_DEFINITIONS "${SORVELO_DEFINICOES_ESTRITAS}")
+endfunction()
+
 # sorvelo_camada(ALVO BASE PASTA [DEPENDE alvos...]): a static library of
 # the .cpp files of BASE/PASTA (an interface library while it has none).
 function(sorvelo_camada alvo base pasta)
@@ -28,6 +37,9 @@ function(sorvelo_camada alvo base pasta)
   file(GLOB fontes CONFIGURE_DEPENDS ${base}/${pasta}/*.cpp)
   file(GLOB cabecalhos CONFIGURE_DEPENDS ${base}/${pasta}/*.h)
   if(fontes)
+    if(base MATCHES "/src$")
+      sorvelo_fontes_estritas(${fontes})
+    endif()
     add_library(${alvo} STATIC ${fontes} ${cabecalhos})
     target_link_libraries(${alvo} PUBLIC ${A_DEPENDE})
   else()

@@ -8,6 +8,7 @@
 // failure, never with a crash, a sanitizer report, a hang or unbounded
 // memory.
 #include "apoio/Duplos.h"
+#include "programa/Programa.h"
 #include "base/Semantica.h"
 #include "combinacoes/SuperReducao.h"
 #include "core/BancoApostas.h"
