@@ -8,13 +8,13 @@
 // failure, never with a crash, a sanitizer report, a hang or unbounded
 // memory.
 #include "apoio/Duplos.h"
-#include "programa/Programa.h"
 #include "base/Semantica.h"
 #include "combinacoes/SuperReducao.h"
 #include "core/BancoApostas.h"
 #include "core/Grade.h"
 #include "core/Module1.h"
 #include "core/Principal.h"
+#include "programa/Programa.h"
 #include "relatorios/Pontuacao.h"
 
 #include <QDir>
