@@ -6,8 +6,7 @@ raiz="$(cd "$(dirname "$0")/.." && pwd)"
 bash "$raiz/scripts/instala-dependencias.sh"
 build="$raiz/build-testes"
 # Line tables only (-g1): the sanitizers still name file and line, and the
-# build takes far less time; the benchmarks are built by the clang step of
-# .ci/run.
+# build takes far less time. The benchmarks are left out of this build.
 cmake -S "$raiz" -B "$build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1 -DSORVELO_SANITIZERS=ON -DSORVELO_WERROR=ON \
       -DSORVELO_BENCHMARKS=OFF
 cmake --build "$build" -j "$(nproc)"
