@@ -11,17 +11,9 @@
 set -euo pipefail
 
 segundos=${1:-600}
-raiz=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-saida=${SORVELO_FUZZ_DIR:-$raiz/build-fuzz}
-
-cxx=$(command -v clang++ || ls /usr/bin/clang++-[0-9]* 2>/dev/null | sort -V | tail -n 1)
-if [ -z "$cxx" ]; then
-    echo "clang++ ausente: rode scripts/fuzz-arquivo.sh 1 para instalá-lo" >&2
-    exit 1
-fi
-echo "== compilando com $cxx em $saida"
-cmake -S "$raiz/tests/fuzz" -B "$saida" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
-cmake --build "$saida" -j "${SORVELO_FUZZ_JOBS:-2}" --target importar_fuzz
+# shellcheck source=scripts/fuzz-comum.sh
+source "$(dirname "${BASH_SOURCE[0]}")/fuzz-comum.sh"
+compila_alvo importar_fuzz
 
 corpus="$saida/corpus-importar"
 mkdir -p "$corpus"
