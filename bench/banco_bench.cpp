@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QImage>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -34,13 +35,18 @@ double segundosCpu() {
     return double(t.tv_sec) + double(t.tv_nsec) / 1e9;
 }
 
-// Peak resident memory of the process, in MB.
-double picoMemoriaMB() {
+// A memory field of the process (VmHWM, VmRSS), in MB.
+double memoriaMB(const char* campo) {
     QFile f(QStringLiteral("/proc/self/status"));
     if (!f.open(QIODevice::ReadOnly)) return -1;
+    const QByteArray chave = QByteArray(campo) + ':';
     for (const QByteArray& linha : f.readAll().split('\n'))
-        if (linha.startsWith("VmHWM:")) return linha.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
+        if (linha.startsWith(chave))
+            return linha.mid(chave.size()).trimmed().split(' ').first().toDouble() / 1024.0;
     return -1;
+}
+double picoMemoriaMB() {
+    return memoriaMB("VmHWM");
 }
 
 // The next six-number combination of 1..60 in lexicographic order.
@@ -78,6 +84,7 @@ void insereAposta(Programa& p, const std::array<int, 6>& numeros, int64_t n) {
 void lote(int64_t quant) {
     ServicosDuplos d;
     Programa p(d.servicos(), d.dialogos);
+    const double residenteAntes = memoriaMB("VmRSS");
     const auto inicio = Relogio::now();
     const double cpuInicio = segundosCpu();
     CarregaPrincipal(p);
@@ -90,6 +97,7 @@ void lote(int64_t quant) {
     }
     InsereLinhaBanco(p, QStringLiteral("\r\n"), true);
     const double tLote = segundosDesde(inicio);
+    const double residenteLote = memoriaMB("VmRSS") - residenteAntes;
 
     const auto inicioVista = Relogio::now();
     p.tela.TxtBanco.defineVisivel(true);
@@ -121,6 +129,9 @@ void lote(int64_t quant) {
                 static_cast<long long>(area.primeiraLinhaVisivel()));
     std::printf("VetBan: %.1f MB\n", double(p.e.VetBan.bytesUsados()) / (1024.0 * 1024.0));
     std::printf("pico de memoria (VmHWM): %.1f MB\n", picoMemoriaMB());
+    std::printf(
+        "memória do lote (VmRSS depois - antes): %.1f MB, %.1f bytes por aposta (VetBan + TxtBanco)\n",
+        residenteLote, residenteLote * 1024.0 * 1024.0 / double(std::max<int64_t>(quant, 1)));
     (void)meio;
 }
 

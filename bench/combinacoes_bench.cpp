@@ -1,6 +1,7 @@
 // Timings of the combination flows, from the start button to the bank:
 // 20 Mega-Sena numbers taken 6, the Mega-Sena closing of "Quina" and the
-// closing of "Quadra" with "Auto-completar". Prints time, yields, the time
+// closing of "Quadra" with "Auto-completar" (and, on request, the closing
+// of "Sena", 50,063,860 bets). Prints time, yields, the time
 // spent in the yields and the peak resident memory (VmHWM) of each run.
 // A window with a progress bar and a counter label, shown offscreen, takes
 // the place of the dialogs, so that the yields that go to the message loop
@@ -181,10 +182,24 @@ int main(int argc, char** argv) {
                              BtnFechar(p);
                          }};
 
+    const Cenario sena{"Fechamento Sena da Mega-Sena (50.063.860)", 20, [](Programa& p) {
+                           p.tela.CmbFecha.Text = QStringLiteral("Sena");
+                           BtnFechar(p);
+                       }};
+
     // "combinacoes_bench quina": only the closing of "Quina" with the cheap
-    // yield (for a profiler).
+    // yield (for a profiler); "quina-programa" and "sena": one closing with
+    // the program's own yield.
     if (argc > 1 && std::strcmp(argv[1], "quina") == 0) {
         roda(quina, Barata, tela);
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "quina-programa") == 0) {
+        roda(quina, EventosEspacados, tela);
+        return 0;
+    }
+    if (argc > 1 && std::strcmp(argv[1], "sena") == 0) {
+        roda(sena, EventosEspacados, tela);
         return 0;
     }
     std::printf("memória da máquina considerada pelo gerador: %.1f GB; bytes por linha (5 números): %lld\n",

@@ -36,16 +36,30 @@ QString MatrizTexto::textoDe(uint8_t codigo) {
     return codigo < textos().size() ? textos()[codigo] : QString();
 }
 
+void MatrizTexto::defineQuantLinhas(int64_t quant) {
+    // Blocks beyond the rows go; the last block keeps just its rows, and
+    // the rows it gains start empty.
+    const size_t blocos = size_t((quant + BlocoLinhas - 1) >> BitsBloco);
+    blocos_.resize(blocos);
+    if (blocos > 0) {
+        for (size_t b = size_t(quantLinhas_ >> BitsBloco); b + 1 < blocos; ++b)
+            blocos_[b].resize(size_t(BlocoLinhas), 0);
+        blocos_.back().resize(size_t(quant - int64_t(blocos - 1) * BlocoLinhas), 0);
+    }
+    quantLinhas_ = quant;
+}
+
 void MatrizTexto::redimensiona(int64_t ultimaColuna, int64_t ultimaLinha) {
     if (ultimaColuna < 0 || ultimaLinha < 0) foraDoIntervalo();
     if (ultimaColuna >= ColunasMaximas || ultimaLinha > INT32_MAX)
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     try {
         // The memory of a large array goes back at once.
-        std::vector<Linha>().swap(linhas_);
-        std::vector<uint8_t>().swap(celulas_);
+        std::vector<std::vector<Linha>>().swap(blocos_);
+        std::vector<std::vector<uint8_t>>().swap(paginas_);
         outros_.clear();
-        linhas_.resize(size_t(ultimaLinha) + 1);
+        quantLinhas_ = 0;
+        defineQuantLinhas(ultimaLinha + 1);
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
@@ -61,62 +75,81 @@ void MatrizTexto::redimensionaPreservando(int64_t ultimaLinha) {
     }
     if (ultimaLinha < 0) foraDoIntervalo();
     if (ultimaLinha > INT32_MAX) throw FalhaExecucao(erro::MemoriaInsuficiente);
-    const size_t novo = size_t(ultimaLinha) + 1;
-    if (novo < linhas_.size()) {
+    const int64_t novo = ultimaLinha + 1;
+    if (novo == quantLinhas_) return;
+    if (novo < quantLinhas_) {
         for (auto it = outros_.begin(); it != outros_.end();) {
-            if (it->first / 256u >= novo)
+            if (int64_t(it->first / 256u) >= novo)
                 it = outros_.erase(it);
             else
                 ++it;
         }
     }
     try {
-        linhas_.resize(novo);
+        defineQuantLinhas(novo);
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
 }
 
 void MatrizTexto::apaga() {
-    linhas_.clear();
-    linhas_.shrink_to_fit();
-    celulas_.clear();
-    celulas_.shrink_to_fit();
+    std::vector<std::vector<Linha>>().swap(blocos_);
+    std::vector<std::vector<uint8_t>>().swap(paginas_);
     outros_.clear();
+    quantLinhas_ = 0;
     temLimites_ = false;
     ultimaColuna_ = -1;
 }
 
 void MatrizTexto::verifica(int64_t coluna, int64_t linha) const {
-    if (!temLimites_ || coluna < 0 || coluna > ultimaColuna_ || linha < 0 || linha >= int64_t(linhas_.size()))
+    if (!temLimites_ || coluna < 0 || coluna > ultimaColuna_ || linha < 0 || linha >= quantLinhas_)
         foraDoIntervalo();
 }
 
+uint64_t MatrizTexto::aloca(int bytes) {
+    // Cells go at the end of the last page, or on a new one.
+    if (paginas_.empty() || paginas_.back().size() + size_t(bytes) > Pagina) {
+        paginas_.emplace_back();
+        paginas_.back().reserve(std::min<size_t>(Pagina, 256));
+    }
+    std::vector<uint8_t>& pagina = paginas_.back();
+    const uint64_t inicio = uint64_t(paginas_.size() - 1) << BitsPagina | uint64_t(pagina.size());
+    if (pagina.size() + size_t(bytes) > pagina.capacity())
+        pagina.reserve(
+            std::min<size_t>(Pagina, std::max(pagina.capacity() * 2, pagina.size() + size_t(bytes))));
+    pagina.resize(pagina.size() + size_t(bytes), Vazio);
+    return inicio;
+}
+
 uint8_t* MatrizTexto::reserva(Linha& l, int colunas, bool exata) {
-    if (colunas <= l.capacidade) return celulas_.data() + l.inicio;
-    const bool ultimaDoDeposito = l.capacidade > 0 && l.inicio + l.capacidade == celulas_.size();
-    int nova = exata ? colunas : std::max<int>(colunas, l.capacidade == 0 ? 8 : l.capacidade * 2);
+    const int capacidade = capacidadeDe(l);
+    if (colunas <= capacidade) return celula(inicioDe(l));
+    int nova = exata ? colunas : std::max<int>(colunas, capacidade == 0 ? 8 : capacidade * 2);
     nova = std::min(nova, ultimaColuna_ + 1);
     try {
-        if (ultimaDoDeposito) {
-            celulas_.resize(l.inicio + size_t(nova), Vazio);
+        const uint64_t inicio = inicioDe(l);
+        std::vector<uint8_t>* pagina = capacidade > 0 ? &paginas_[size_t(inicio >> BitsPagina)] : nullptr;
+        const uint64_t deslocamento = inicio & (Pagina - 1);
+        if (pagina && pagina == &paginas_.back() && deslocamento + uint64_t(capacidade) == pagina->size() &&
+            deslocamento + uint64_t(nova) <= Pagina) {
+            // The last cells of the last page grow where they are.
+            pagina->resize(size_t(deslocamento) + size_t(nova), Vazio);
         } else {
-            const uint64_t inicio = celulas_.size();
-            celulas_.resize(inicio + size_t(nova), Vazio);
-            if (l.tamanho > 0) std::memcpy(celulas_.data() + inicio, celulas_.data() + l.inicio, l.tamanho);
-            l.inicio = inicio;
+            const uint64_t novoInicio = aloca(nova);
+            if (tamanhoDe(l) > 0) std::memcpy(celula(novoInicio), celula(inicio), size_t(tamanhoDe(l)));
+            l = fazLinha(novoInicio, capacidade, tamanhoDe(l));
         }
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
-    l.capacidade = uint8_t(nova);
-    return celulas_.data() + l.inicio;
+    l = fazLinha(inicioDe(l), nova, tamanhoDe(l));
+    return celula(inicioDe(l));
 }
 
 uint8_t MatrizTexto::codigo(int64_t coluna, int64_t linha) const {
     verifica(coluna, linha);
-    const Linha& l = linhas_[size_t(linha)];
-    return coluna < l.tamanho ? celulas_[l.inicio + uint64_t(coluna)] : Vazio;
+    const Linha l = linhaEm(linha);
+    return coluna < tamanhoDe(l) ? celula(inicioDe(l))[coluna] : Vazio;
 }
 
 QString MatrizTexto::valor(int64_t coluna, int64_t linha) const {
@@ -128,16 +161,17 @@ QString MatrizTexto::valor(int64_t coluna, int64_t linha) const {
 
 void MatrizTexto::defineCodigo(int64_t coluna, int64_t linha, uint8_t cod) {
     verifica(coluna, linha);
-    Linha& l = linhas_[size_t(linha)];
-    if (coluna >= l.tamanho) {
+    Linha& l = linhaEm(linha);
+    const int tamanho = tamanhoDe(l);
+    if (coluna >= tamanho) {
         if (cod == Vazio) return;
         uint8_t* p = reserva(l, int(coluna) + 1);
-        std::memset(p + l.tamanho, Vazio, size_t(coluna - l.tamanho));
-        l.tamanho = uint8_t(coluna + 1);
+        std::memset(p + tamanho, Vazio, size_t(coluna - tamanho));
+        l = fazLinha(inicioDe(l), capacidadeDe(l), int(coluna) + 1);
     }
-    uint8_t& celula = celulas_[l.inicio + uint64_t(coluna)];
-    if (celula == Outro && cod != Outro) outros_.erase(chave(coluna, linha));
-    celula = cod;
+    uint8_t& celulaAtual = celula(inicioDe(l))[coluna];
+    if (celulaAtual == Outro && cod != Outro) outros_.erase(chave(coluna, linha));
+    celulaAtual = cod;
 }
 
 void MatrizTexto::define(int64_t coluna, int64_t linha, const QString& texto) {
@@ -147,31 +181,32 @@ void MatrizTexto::define(int64_t coluna, int64_t linha, const QString& texto) {
 }
 
 const uint8_t* MatrizTexto::celulas(int64_t linha, int& quant) const {
-    if (!temLimites_ || linha < 0 || linha >= int64_t(linhas_.size())) foraDoIntervalo();
-    const Linha& l = linhas_[size_t(linha)];
-    const uint8_t* p = celulas_.data() + l.inicio;
-    const void* fim = l.tamanho ? std::memchr(p, Fim, l.tamanho) : nullptr;
-    quant = fim ? int(static_cast<const uint8_t*>(fim) - p) + 1 : l.tamanho;
+    if (!temLimites_ || linha < 0 || linha >= quantLinhas_) foraDoIntervalo();
+    const Linha l = linhaEm(linha);
+    const int tamanho = tamanhoDe(l);
+    const uint8_t* p = celula(inicioDe(l));
+    const void* fim = tamanho ? std::memchr(p, Fim, size_t(tamanho)) : nullptr;
+    quant = fim ? int(static_cast<const uint8_t*>(fim) - p) + 1 : tamanho;
     return p;
 }
 
 void MatrizTexto::defineCelulas(int64_t linha, const uint8_t* codigos, int quant) {
     if (quant <= 0) return;
     verifica(quant - 1, linha);
-    Linha& l = linhas_[size_t(linha)];
+    Linha& l = linhaEm(linha);
     // A row written whole for the first time takes just its own width.
-    uint8_t* p = reserva(l, quant, l.capacidade == 0);
-    const int antigas = std::min<int>(quant, l.tamanho);
+    uint8_t* p = reserva(l, quant, capacidadeDe(l) == 0);
+    const int antigas = std::min<int>(quant, tamanhoDe(l));
     for (int c = 0; c < antigas; ++c)
         if (p[c] == Outro) outros_.erase(chave(c, linha));
     std::memcpy(p, codigos, size_t(quant));
-    if (quant > l.tamanho) l.tamanho = uint8_t(quant);
+    if (quant > tamanhoDe(l)) l = fazLinha(inicioDe(l), capacidadeDe(l), quant);
 }
 
 void MatrizTexto::reserva(int64_t linhas, size_t bytes) {
     try {
-        if (linhas > 0) linhas_.reserve(size_t(linhas));
-        celulas_.reserve(celulas_.size() + bytes);
+        if (linhas > 0) blocos_.reserve(size_t((linhas + BlocoLinhas - 1) >> BitsBloco));
+        paginas_.reserve(paginas_.size() + bytes / Pagina + 1);
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     } catch (const std::length_error&) {
@@ -180,7 +215,13 @@ void MatrizTexto::reserva(int64_t linhas, size_t bytes) {
 }
 
 size_t MatrizTexto::bytesUsados() const {
-    return linhas_.capacity() * sizeof(Linha) + celulas_.capacity() + outros_.size() * 64;
+    size_t b = blocos_.capacity() * sizeof(std::vector<Linha>) +
+               paginas_.capacity() * sizeof(std::vector<uint8_t>) + outros_.size() * 64;
+    for (const auto& bloco : blocos_)
+        b += bloco.capacity() * sizeof(Linha);
+    for (const auto& pagina : paginas_)
+        b += pagina.capacity();
+    return b;
 }
 
 } // namespace sorvelo

@@ -36,8 +36,8 @@ public:
 
     bool temLimites() const { return temLimites_; }
     int32_t ultimaColuna() const { return ultimaColuna_; }
-    int32_t ultimaLinha() const { return int32_t(int64_t(linhas_.size()) - 1); }
-    int64_t quantLinhas() const { return int64_t(linhas_.size()); }
+    int32_t ultimaLinha() const { return int32_t(quantLinhas_ - 1); }
+    int64_t quantLinhas() const { return quantLinhas_; }
 
     QString valor(int64_t coluna, int64_t linha) const;
     void define(int64_t coluna, int64_t linha, const QString& texto);
@@ -52,10 +52,10 @@ public:
     // from `quant` to the last column are empty), for scans that stop at
     // the "#" themselves.
     const uint8_t* celulasGuardadas(int64_t linha, int& quant) const {
-        if (!temLimites_ || linha < 0 || linha >= int64_t(linhas_.size())) foraDoIntervalo();
-        const Linha& l = linhas_[size_t(linha)];
-        quant = l.tamanho;
-        return celulas_.data() + l.inicio;
+        if (!temLimites_ || linha < 0 || linha >= quantLinhas_) foraDoIntervalo();
+        const Linha l = linhaEm(linha);
+        quant = tamanhoDe(l);
+        return celula(inicioDe(l));
     }
 
     // Bulk writing for the generators and the batch writers. The cells
@@ -64,27 +64,50 @@ public:
     // bounds is failure 9, and then nothing is written.
     void defineCelulas(int64_t linha, const uint8_t* codigos, int quant);
     // Room ahead of a bulk fill: for `linhas` rows in all and `bytes` more
-    // cell bytes, so that the store does not grow step by step. Changes no
-    // bound and no content.
+    // cell bytes. The store grows by blocks of rows and pages of cells, never
+    // copying what it holds, so this only makes room for the lists of
+    // blocks. Changes no bound and no content.
     void reserva(int64_t linhas, size_t bytes);
 
     // Bytes held by the store (for the memory budget).
     size_t bytesUsados() const;
 
 private:
-    struct Linha {
-        uint64_t inicio = 0;
-        uint8_t tamanho = 0;
-        uint8_t capacidade = 0;
-    };
+    // A row: where its cells start (in the pages), how many it holds and
+    // how many fit there. Rows live in blocks of BlocoLinhas, cells in pages
+    // of Pagina bytes; a row's cells never cross a page.
+    using Linha = uint64_t; // inicio << 16 | capacidade << 8 | tamanho
+    static constexpr int BitsBloco = 12;
+    static constexpr int64_t BlocoLinhas = int64_t(1) << BitsBloco;
+    static constexpr int BitsPagina = 16;
+    static constexpr uint64_t Pagina = uint64_t(1) << BitsPagina;
+    static uint64_t inicioDe(Linha l) { return l >> 16; }
+    static int capacidadeDe(Linha l) { return int((l >> 8) & 0xFF); }
+    static int tamanhoDe(Linha l) { return int(l & 0xFF); }
+    static Linha fazLinha(uint64_t inicio, int capacidade, int tamanho) {
+        return inicio << 16 | uint64_t(capacidade) << 8 | uint64_t(tamanho);
+    }
+    Linha linhaEm(int64_t i) const { return blocos_[size_t(i >> BitsBloco)][size_t(i & (BlocoLinhas - 1))]; }
+    Linha& linhaEm(int64_t i) { return blocos_[size_t(i >> BitsBloco)][size_t(i & (BlocoLinhas - 1))]; }
+    const uint8_t* celula(uint64_t inicio) const {
+        return paginas_.empty() ? nullptr
+                                : paginas_[size_t(inicio >> BitsPagina)].data() + (inicio & (Pagina - 1));
+    }
+    uint8_t* celula(uint64_t inicio) {
+        return paginas_[size_t(inicio >> BitsPagina)].data() + (inicio & (Pagina - 1));
+    }
+
     void verifica(int64_t coluna, int64_t linha) const;
+    void defineQuantLinhas(int64_t quant);
     uint8_t* reserva(Linha& l, int colunas, bool exata = false);
+    uint64_t aloca(int bytes);
     uint64_t chave(int64_t coluna, int64_t linha) const { return uint64_t(linha) * 256u + uint64_t(coluna); }
 
     bool temLimites_ = false;
     int32_t ultimaColuna_ = -1;
-    std::vector<Linha> linhas_;
-    std::vector<uint8_t> celulas_;
+    int64_t quantLinhas_ = 0;
+    std::vector<std::vector<Linha>> blocos_;
+    std::vector<std::vector<uint8_t>> paginas_;
     std::unordered_map<uint64_t, QString> outros_;
 };
 

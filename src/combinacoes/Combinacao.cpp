@@ -113,7 +113,7 @@ void PreparaFechamento(Nucleo& p) {
 void ConcluiCombinacao(Nucleo& p) {
     auto& e = p.e;
     if (e.Cancelado) return;
-    if (!p.tela.TxtBanco.texto().isEmpty()) {
+    if (!p.tela.TxtBanco.vazio()) {
         if (p.s.caixa->pergunta(QStringLiteral("Limpar o banco de apostas para inserir os novos jogos?"),
                                 Botoes::SimNao, Resposta::Nao) == Resposta::Sim)
             LimpaBancoApostas(p);

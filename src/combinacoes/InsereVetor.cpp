@@ -80,8 +80,16 @@ void InsereVetor::InsereVetRes(Int16 k) {
         e.VetBan.reserva(linhas, size_t(std::max<int64_t>(e.TotalApostas.valor(), 0)) *
                                      size_t(std::clamp<int>(k.valor() + 1, 1, 82)));
     });
+    uint8_t codigos[256];
     while (Cont < e.TotalApostas && !e.Cancelado) {
-        InsereLinhaAposta(banco, int64_t(Cont.valor()) + 1, RetAposta(LinhaOrigem, k), e.FimLinha);
+        const int64_t n = int64_t(Cont.valor()) + 1;
+        if (ApostaDeNumeros(LinhaOrigem, k, codigos)) {
+            for (int c = 0; c < k.valor(); ++c)
+                codigos[c] = uint8_t(codigos[c] - MatrizTexto::PrimeiroNumero);
+            InsereLinhaAposta(banco, n, codigos, k.valor(), e.FimLinha);
+        } else {
+            InsereLinhaAposta(banco, n, RetApostaCelulas(LinhaOrigem, k, QString()), e.FimLinha);
+        }
         Cont += 1;
         LinhaOrigem -= 1;
         if (Cont.valor() % 13 == 0) {
@@ -127,37 +135,49 @@ QString InsereVetor::apostaDaLista(Int16& i) {
     return texto;
 }
 
-QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
+bool InsereVetor::ApostaDeNumeros(Int32 linha, Int16 k, uint8_t* codigos) {
     auto& e = p_.e;
     LstSort.clear();
     tenta([&] { e.VetBan.redimensionaPreservando((e.QuantBan + 1).valor()); });
     const int64_t destino = e.QuantBan.valor();
     const bool comLista = m_.AutoCompletar == 1 || !e.VetFixos(0).isEmpty();
-    QString texto;
-    texto.reserve(3 * std::max<int>(k.valor(), TamanhoJogo.valor()) + 3);
 
     // The common case, on the cell codes: every cell of the row readable
     // and a number, the bet and its "#" within the columns of VetBan.
     const bool linhaExiste = linha >= 0 && linha.valor() <= e.VetRes.ultimaLinha() && destino >= 0 &&
                              destino <= e.VetBan.ultimaLinha();
-    if (!comLista && linhaExiste && k >= 0 && k.valor() <= e.VetBan.ultimaColuna() &&
-        k.valor() <= e.VetRes.ultimaColuna() + 1) {
-        uint8_t codigos[256];
-        bool simples = true;
-        for (int c = 0; c < k.valor() && simples; ++c) {
-            codigos[c] = e.VetRes.codigo(c, linha.valor());
-            simples = codigos[c] != MatrizTexto::Outro;
-        }
-        if (simples) {
-            for (int c = 0; c < k.valor(); ++c)
-                acrescentaCodigo(texto, codigos[c]);
-            codigos[k.valor()] = MatrizTexto::Fim;
-            e.VetBan.defineCelulas(destino, codigos, k.valor() + 1);
-            e.QuantBan += 1;
-            return texto;
-        }
+    if (comLista || !linhaExiste || k < 0 || k.valor() > e.VetBan.ultimaColuna() ||
+        k.valor() > e.VetRes.ultimaColuna() + 1)
+        return false;
+    int quant = 0;
+    const uint8_t* origem = e.VetRes.celulasGuardadas(linha.valor(), quant);
+    for (int c = 0; c < k.valor(); ++c) {
+        codigos[c] = c < quant ? origem[c] : MatrizTexto::Vazio;
+        if (codigos[c] < MatrizTexto::PrimeiroNumero || codigos[c] >= MatrizTexto::PrimeiroNumero + 100)
+            return false;
     }
+    codigos[k.valor()] = MatrizTexto::Fim;
+    e.VetBan.defineCelulas(destino, codigos, k.valor() + 1);
+    e.QuantBan += 1;
+    return true;
+}
 
+QString InsereVetor::RetAposta(Int32 linha, Int16 k) {
+    uint8_t codigos[256];
+    QString texto;
+    texto.reserve(3 * std::max<int>(k.valor(), TamanhoJogo.valor()) + 3);
+    if (ApostaDeNumeros(linha, k, codigos)) {
+        for (int c = 0; c < k.valor(); ++c)
+            acrescentaCodigo(texto, codigos[c]);
+        return texto;
+    }
+    return RetApostaCelulas(linha, k, std::move(texto));
+}
+
+QString InsereVetor::RetApostaCelulas(Int32 linha, Int16 k, QString texto) {
+    auto& e = p_.e;
+    const int64_t destino = e.QuantBan.valor();
+    const bool comLista = m_.AutoCompletar == 1 || !e.VetFixos(0).isEmpty();
     // Cell by cell, each step skipped when it fails.
     Int16 i = 0;
     for (i = 0; i < k; ++i) {

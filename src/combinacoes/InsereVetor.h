@@ -25,6 +25,12 @@ public:
     // Writes the bet of a row of VetRes into VetBan at row QuantBan and
     // gives its text. Each failing step is skipped.
     QString RetAposta(Int32 linha, Int16 k);
+    // The common case of RetAposta: when the row's first k cells are
+    // numbers, writes them and the "#" into VetBan, gives their codes in
+    // `codigos` (k + 1 of them) and is true. Otherwise writes nothing but
+    // the new bound of VetBan, and RetApostaCelulas does the rest.
+    bool ApostaDeNumeros(Int32 linha, Int16 k, uint8_t* codigos);
+    QString RetApostaCelulas(Int32 linha, Int16 k, QString texto);
     bool ExisteNaLista(Int16 r) const;
 
     // Controls.

@@ -1,6 +1,6 @@
 #include "combinacoes/LeituraSuper.h"
 
-#include "core/Cp1252.h"
+#include "base/Cp1252.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -68,11 +68,10 @@ uint8_t& Module2::Contado(int64_t linha) {
 
 int64_t BytesPorLinha(int k) {
     if (k < 0) k = 0;
-    // VetRes and VetBan: a row index of 16 bytes and one byte a cell (and
-    // the "#"); VetContado: one byte; the bank's text: "00001)   ", three
-    // characters a number and the line end, two bytes a character, two runs
-    // of colour and a line start of eight bytes each.
-    return (16 + k) + 1 + (16 + k + 1) + 2 * (9 + 3 * k + 2) + 3 * 8;
+    // VetRes and VetBan: a row index of 8 bytes and one byte a cell (and
+    // the "#"); VetContado: one byte; the bank's text: one byte a number,
+    // and a byte for its share of the segments.
+    return (8 + k) + 1 + (8 + k + 1) + (k + 1);
 }
 
 QString MensagemMemoriaInsuficiente() {

@@ -1,7 +1,7 @@
 #include "core/ArquivoApostas.h"
 
+#include "base/Cp1252.h"
 #include "core/BancoApostas.h"
-#include "core/Cp1252.h"
 #include "core/Grade.h"
 #include "core/GravacaoAtomica.h"
 #include "core/Loteria.h"

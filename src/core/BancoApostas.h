@@ -15,6 +15,9 @@ void InsereLinhaBanco(Nucleo& p, const QString& Texto, bool Negrito);
 // The bet line "00001)   01 02 03 04 05 06 " plus FimLinha, numbered n, at
 // the end of a document: the first 6 characters dark red, the rest blue.
 void InsereLinhaAposta(DocumentoRico& doc, int64_t n, const QString& Aposta, const QString& FimLinha);
+// The same line of a bet of `quant` numbers from 0 to 99, without its text.
+void InsereLinhaAposta(DocumentoRico& doc, int64_t n, const uint8_t* numeros, int quant,
+                       const QString& FimLinha);
 // The main form's writer of one bet line, numbered QuantBan + 1.
 void InsereApostaBanco(Nucleo& p, const QString& Aposta, int64_t n);
 // BtnSeta: one bet of the marked grid.

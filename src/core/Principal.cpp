@@ -115,7 +115,7 @@ void MovimentoMouse(Nucleo& p, Regiao onde, int x, int y) {
 }
 
 void FechaPrincipal(Nucleo& p) {
-    if (!p.tela.TxtBanco.texto().isEmpty() && p.e.BancoAlterado) {
+    if (!p.tela.TxtBanco.vazio() && p.e.BancoAlterado) {
         if (p.s.caixa->pergunta(QStringLiteral("Deseja salvar as apostas atuais?"), Botoes::SimNao,
                                 Resposta::Sim) == Resposta::Sim) {
             SalvarArquivo(p);

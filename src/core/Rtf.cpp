@@ -1,7 +1,7 @@
 #include "core/Rtf.h"
 
+#include "base/Cp1252.h"
 #include "base/Semantica.h"
-#include "core/Cp1252.h"
 
 #include <algorithm>
 #include <charconv>
@@ -33,24 +33,92 @@ void hexa(std::string& s, uint8_t b) {
 
 } // namespace
 
+namespace {
+
+// The characters of the text, run after run, with a change of colour or
+// weight written before the first character that needs it.
+class EscritorRtf {
+public:
+    EscritorRtf(std::string& s, const std::unordered_map<Cor, int>& indices) : s_(s), indices_(indices) {}
+
+    void pedaco(QStringView texto, Formato f) {
+        qsizetype i = 0;
+        const qsizetype n = texto.size();
+        // A CR LF is one line end, even when a change of format falls
+        // between the two.
+        if (depoisDeCr_ && n > 0 && texto[0] == u'\n') ++i;
+        if (n > 0) depoisDeCr_ = false;
+        if (i >= n) return;
+        formato(f);
+        for (; i < n; ++i) {
+            const char16_t c = texto[i].unicode();
+            if (c == u'\r' && i + 1 < n && texto[i + 1] == u'\n') ++i;
+            caractere(c);
+        }
+        depoisDeCr_ = texto[n - 1] == u'\r';
+    }
+
+private:
+    void formato(Formato f) {
+        const int cor = indices_.at(f.cor);
+        bool mudou = false;
+        if (cor != corAtual_) {
+            s_ += "\\cf";
+            numero(s_, cor);
+            corAtual_ = cor;
+            mudou = true;
+        }
+        if (f.negrito != negritoAtual_) {
+            s_ += f.negrito ? "\\b" : "\\b0";
+            negritoAtual_ = f.negrito;
+            mudou = true;
+        }
+        if (mudou) s_ += ' ';
+    }
+
+    void caractere(char16_t c) {
+        if (c >= 0x20 && c < 0x7F) {
+            if (c == u'\\' || c == u'{' || c == u'}') s_ += '\\';
+            s_ += char(c);
+        } else if (c == u'\r' || c == u'\n') {
+            s_ += "\\par\r\n";
+        } else if (c == u'\t') {
+            s_ += "\\tab ";
+        } else if (c < 0x20 || c == 0x7F) {
+            hexa(s_, uint8_t(c));
+        } else if (uint8_t b; cp1252::byteDe(c, b)) {
+            hexa(s_, b);
+        } else {
+            s_ += "\\u";
+            numero(s_, int16_t(c));
+            s_ += '?';
+        }
+    }
+
+    std::string& s_;
+    const std::unordered_map<Cor, int>& indices_;
+    int corAtual_ = -1;
+    bool negritoAtual_ = false;
+    bool depoisDeCr_ = false;
+};
+
+} // namespace
+
 QByteArray escreveRtf(const DocumentoRico& documento) {
     if (documento.comprimento() == 0) return {};
-    const std::vector<Trecho> trechos = documento.trechos();
 
     // Colour table in the order of first use; entry 0 stays "auto".
     std::vector<Cor> cores;
-    std::vector<int> indiceCor(trechos.size());
     std::unordered_map<Cor, int> indices;
-    for (size_t k = 0; k < trechos.size(); ++k) {
-        const Cor c = trechos[k].formato.cor;
-        auto [it, nova] = indices.try_emplace(c, int(cores.size()) + 1);
-        if (nova) cores.push_back(c);
-        indiceCor[k] = it->second;
-    }
+    int64_t trechos = 0;
+    documento.percorreTrechos(0, documento.comprimento(), [&](const Trecho& t) {
+        ++trechos;
+        if (indices.try_emplace(t.formato.cor, int(cores.size()) + 1).second) cores.push_back(t.formato.cor);
+    });
 
     std::string s;
     try {
-        s.reserve(size_t(documento.comprimento()) + trechos.size() * 8 + cores.size() * 32 + 256);
+        s.reserve(size_t(documento.comprimento()) + size_t(trechos) * 8 + cores.size() * 32 + 256);
         s += "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\r\n{\\colortbl ;";
         for (Cor c : cores) {
             s += "\\red";
@@ -62,50 +130,9 @@ QByteArray escreveRtf(const DocumentoRico& documento) {
             s += ';';
         }
         s += "}\r\n\\uc1\\pard\\f0\\fs20";
-
-        const QChar* d = documento.texto().constData();
-        int corAtual = -1;
-        bool negritoAtual = false;
-        int64_t i = 0;
-        for (size_t k = 0; k < trechos.size(); ++k) {
-            const Trecho& t = trechos[k];
-            if (i >= t.fim) continue; // its only character went with a CR LF before it
-            bool mudou = false;
-            if (indiceCor[k] != corAtual) {
-                s += "\\cf";
-                numero(s, indiceCor[k]);
-                corAtual = indiceCor[k];
-                mudou = true;
-            }
-            if (t.formato.negrito != negritoAtual) {
-                s += t.formato.negrito ? "\\b" : "\\b0";
-                negritoAtual = t.formato.negrito;
-                mudou = true;
-            }
-            if (mudou) s += ' ';
-            for (; i < t.fim; ++i) {
-                const char16_t c = d[i].unicode();
-                if (c >= 0x20 && c < 0x7F) {
-                    if (c == u'\\' || c == u'{' || c == u'}') s += '\\';
-                    s += char(c);
-                } else if (c == u'\r' || c == u'\n') {
-                    // A CR LF is one line end, even when a change of format
-                    // falls between the two.
-                    if (c == u'\r' && i + 1 < documento.comprimento() && d[i + 1] == u'\n') ++i;
-                    s += "\\par\r\n";
-                } else if (c == u'\t') {
-                    s += "\\tab ";
-                } else if (c < 0x20 || c == 0x7F) {
-                    hexa(s, uint8_t(c));
-                } else if (uint8_t b; cp1252::byteDe(c, b)) {
-                    hexa(s, b);
-                } else {
-                    s += "\\u";
-                    numero(s, int16_t(c));
-                    s += '?';
-                }
-            }
-        }
+        EscritorRtf escritor(s, indices);
+        documento.percorreTexto(0, documento.comprimento(),
+                                [&escritor](QStringView texto, Formato f) { escritor.pedaco(texto, f); });
         s += "}\r\n";
         return QByteArray(s.data(), qsizetype(s.size()));
     } catch (const std::bad_alloc&) {

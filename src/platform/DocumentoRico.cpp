@@ -1,11 +1,19 @@
 #include "platform/DocumentoRico.h"
 
 #include "base/Semantica.h"
+#include "platform/SegmentoDocumento.h"
 
 #include <algorithm>
 #include <new>
 
 namespace sorvelo {
+
+using Segmento = DocumentoRico::Segmento;
+
+DocumentoRico::DocumentoRico() = default;
+DocumentoRico::~DocumentoRico() = default;
+DocumentoRico::DocumentoRico(const DocumentoRico&) = default;
+DocumentoRico& DocumentoRico::operator=(const DocumentoRico&) = default;
 
 uint16_t DocumentoRico::indiceFormato(Formato f) {
     if (!formatos_.empty() && formatos_.back() == f) return uint16_t(formatos_.size() - 1);
@@ -23,185 +31,177 @@ void DocumentoRico::mudou() {
     aoMudar();
 }
 
-void DocumentoRico::defineTexto(const QString& texto) {
-    texto_ = texto;
-    // A rewrite gives back the memory of a large document.
-    std::vector<uint64_t>().swap(trechos_);
-    std::vector<int64_t>{0}.swap(iniciosLinha_);
-    if (!texto_.isEmpty()) trechos_.push_back(uint64_t(indiceFormato(formatoPadrao)));
-    indexaLinhas(0);
-    ++geracao_;
-    mudou();
+void DocumentoRico::esvazia() {
+    // The memory of a large document goes back at once.
+    std::vector<Segmento>().swap(segmentos_);
+    comprimento_ = 0;
+    fins_ = 0;
 }
 
-void DocumentoRico::acrescenta(QStringView pedaco, Formato formato) {
-    if (pedaco.isEmpty()) {
-        mudou();
-        return;
+size_t DocumentoRico::segmentoDa(int64_t posicao) const {
+    auto it = std::upper_bound(segmentos_.begin(), segmentos_.end(), posicao,
+                               [](int64_t p, const Segmento& s) { return p < s.inicio; });
+    return it == segmentos_.begin() ? 0 : size_t(it - segmentos_.begin()) - 1;
+}
+
+void DocumentoRico::reindexa(size_t desde) {
+    int64_t inicio = 0, fins = 0;
+    if (desde > 0 && desde <= segmentos_.size()) {
+        const Segmento& s = segmentos_[desde - 1];
+        inicio = s.inicio + s.comprimento();
+        fins = s.finsAntes + s.quantFins();
     }
-    const int64_t inicio = texto_.size();
+    for (size_t i = desde; i < segmentos_.size(); ++i) {
+        segmentos_[i].inicio = inicio;
+        segmentos_[i].finsAntes = fins;
+        inicio += segmentos_[i].comprimento();
+        fins += segmentos_[i].quantFins();
+    }
+    comprimento_ = inicio;
+    fins_ = fins;
+}
+
+// ---------------------------------------------------------------- reading
+
+QString DocumentoRico::texto() const {
+    return texto(0, comprimento_);
+}
+
+QString DocumentoRico::texto(int64_t inicio, int64_t fim) const {
+    inicio = std::clamp<int64_t>(inicio, 0, comprimento_);
+    fim = std::clamp<int64_t>(fim, inicio, comprimento_);
+    QString r;
+    if (inicio == fim) return r;
     try {
-        const uint16_t f = indiceFormato(formato);
-        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f)
-            trechos_.push_back(uint64_t(inicio) << 16 | f);
-        texto_.append(pedaco);
+        r.reserve(qsizetype(fim - inicio));
+        for (size_t i = segmentoDa(inicio); i < segmentos_.size() && segmentos_[i].inicio < fim; ++i) {
+            const Segmento& s = segmentos_[i];
+            s.escreve(std::max(inicio, s.inicio) - s.inicio,
+                      std::min(fim, s.inicio + s.comprimento()) - s.inicio, r);
+        }
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }
-    indexaLinhas(inicio);
-    mudou();
+    return r;
 }
 
-void DocumentoRico::acrescenta(const DocumentoRico& outro) {
-    const int64_t base = texto_.size();
-    if (outro.texto_.isEmpty()) {
-        mudou();
-        return;
-    }
-    for (size_t i = 0; i < outro.trechos_.size(); ++i) {
-        const uint16_t f = indiceFormato(outro.formatos_[outro.trechos_[i] & 0xFFFF]);
-        const int64_t ini = base + int64_t(outro.trechos_[i] >> 16);
-        if (trechos_.empty() || (trechos_.back() & 0xFFFF) != f) trechos_.push_back(uint64_t(ini) << 16 | f);
-    }
-    texto_.append(outro.texto_);
-    indexaLinhas(base);
-    mudou();
+QChar DocumentoRico::caractere(int64_t posicao) const {
+    if (posicao < 0 || posicao >= comprimento_) return QChar();
+    const Segmento& s = segmentos_[segmentoDa(posicao)];
+    return QChar(s.caractere(posicao - s.inicio));
 }
 
-void DocumentoRico::acrescentaTomando(DocumentoRico& outro) {
-    if (!texto_.isEmpty()) {
-        acrescenta(outro);
-        return;
+void DocumentoRico::percorreTrechos(int64_t inicio, int64_t fim,
+                                    const std::function<void(const Trecho&)>& f) const {
+    inicio = std::max<int64_t>(inicio, 0);
+    fim = std::min(fim, comprimento_);
+    if (inicio >= fim) return;
+    Trecho atual{0, 0, {}};
+    bool tem = false;
+    for (size_t i = segmentoDa(inicio); i < segmentos_.size() && segmentos_[i].inicio < fim; ++i) {
+        const Segmento& s = segmentos_[i];
+        s.corridasEntre(std::max(inicio, s.inicio) - s.inicio,
+                        std::min(fim, s.inicio + s.comprimento()) - s.inicio,
+                        [&](int64_t a, int64_t b, uint16_t fi) {
+                            const Formato fo = formatos_[fi];
+                            if (tem && atual.fim == s.inicio + a && atual.formato == fo) {
+                                atual.fim = s.inicio + b;
+                                return;
+                            }
+                            if (tem) f(atual);
+                            atual = {s.inicio + a, s.inicio + b, fo};
+                            tem = true;
+                        });
     }
-    // Nothing here refers to formatos_ while the text is empty.
-    texto_.swap(outro.texto_);
-    trechos_.swap(outro.trechos_);
-    formatos_.swap(outro.formatos_);
-    indices_.swap(outro.indices_);
-    iniciosLinha_.swap(outro.iniciosLinha_);
-    outro.defineTexto(QString());
-    mudou();
+    if (tem) f(atual);
 }
 
-void DocumentoRico::substitui(int64_t inicio, int64_t fim, QStringView novo, Formato formato) {
-    const int64_t n = texto_.size();
-    inicio = std::clamp<int64_t>(inicio, 0, n);
-    fim = std::clamp<int64_t>(fim, inicio, n);
-    const int64_t delta = int64_t(novo.size()) - (fim - inicio);
-    const int64_t fimNovo = inicio + int64_t(novo.size());
-    try {
-        const uint16_t f = indiceFormato(formato);
-        const bool temResto = fim < n;
-        const uint16_t fResto = temResto ? indiceFormato(formatoEm(fim)) : 0;
-        // Runs: those before the edit, the new text, the rest shifted.
-        std::vector<uint64_t> r;
-        r.reserve(trechos_.size() + 2);
-        const auto poe = [&r](int64_t ini, uint16_t fmt) {
-            while (!r.empty() && int64_t(r.back() >> 16) >= ini)
-                r.pop_back();
-            if (r.empty() || (r.back() & 0xFFFF) != fmt) r.push_back(uint64_t(ini) << 16 | fmt);
-        };
-        for (uint64_t t : trechos_)
-            if (int64_t(t >> 16) < inicio) poe(int64_t(t >> 16), uint16_t(t & 0xFFFF));
-        if (!novo.isEmpty()) poe(inicio, f);
-        if (temResto) poe(fimNovo, fResto);
-        for (uint64_t t : trechos_)
-            if (int64_t(t >> 16) > fim) poe(int64_t(t >> 16) + delta, uint16_t(t & 0xFFFF));
-
-        // Lines: those before the edit stay, those after it move by delta,
-        // the lines of the edit are read again.
-        std::vector<int64_t> depois;
-        for (auto it = std::upper_bound(iniciosLinha_.begin(), iniciosLinha_.end(), fim);
-             it != iniciosLinha_.end(); ++it)
-            depois.push_back(*it + delta);
-        texto_.replace(qsizetype(inicio), qsizetype(fim - inicio), novo.toString());
-        trechos_.swap(r);
-        const int64_t k = linhaDa(std::max<int64_t>(0, inicio - 1));
-        iniciosLinha_.resize(size_t(k + 1));
-        const QChar* d = texto_.constData();
-        const int64_t total = texto_.size();
-        for (int64_t i = iniciosLinha_.back(); i < fimNovo; ++i) {
-            const char16_t c = d[i].unicode();
-            if (c == u'\r') {
-                if (i + 1 < total && d[i + 1] == u'\n') continue; // the LF ends the line
-                iniciosLinha_.push_back(i + 1);
-            } else if (c == u'\n') {
-                iniciosLinha_.push_back(i + 1);
-            }
-        }
-        iniciosLinha_.insert(iniciosLinha_.end(), depois.begin(), depois.end());
-    } catch (const std::bad_alloc&) {
-        throw FalhaExecucao(erro::MemoriaInsuficiente);
-    }
-    mudou();
+std::vector<Trecho> DocumentoRico::trechos(int64_t inicio, int64_t fim) const {
+    std::vector<Trecho> r;
+    percorreTrechos(inicio, fim, [&r](const Trecho& t) { r.push_back(t); });
+    return r;
 }
 
-void DocumentoRico::indexaLinhas(int64_t desde) {
-    // A CR at the end of the previous text followed by a LF now: the line
-    // start recorded after the CR moves past the LF.
-    const QChar* d = texto_.constData();
-    const int64_t n = texto_.size();
-    int64_t i = desde;
-    if (i > 0 && i < n && d[i - 1] == u'\r' && d[i] == u'\n') {
-        iniciosLinha_.back() = i + 1;
-        ++i;
+std::vector<Trecho> DocumentoRico::trechos() const {
+    return trechos(0, comprimento_);
+}
+
+void DocumentoRico::percorreTexto(int64_t inicio, int64_t fim,
+                                  const std::function<void(QStringView, Formato)>& f) const {
+    inicio = std::max<int64_t>(inicio, 0);
+    fim = std::min(fim, comprimento_);
+    if (inicio >= fim) return;
+    QString pedaco;
+    char16_t linha[Segmento::MaiorLinha];
+    int64_t linhaEscrita = -1;
+    for (size_t i = segmentoDa(inicio); i < segmentos_.size() && segmentos_[i].inicio < fim; ++i) {
+        const Segmento& s = segmentos_[i];
+        linhaEscrita = -1;
+        s.corridasEntre(std::max(inicio, s.inicio) - s.inicio,
+                        std::min(fim, s.inicio + s.comprimento()) - s.inicio,
+                        [&](int64_t a, int64_t b, uint16_t fi) {
+                            if (s.apostas) {
+                                const int64_t j = a / s.largura;
+                                if (j != linhaEscrita) s.escreveLinha(j, linha);
+                                linhaEscrita = j;
+                                const int64_t ini = j * s.largura;
+                                f(QStringView(linha + (a - ini), qsizetype(b - a)), formatos_[fi]);
+                                return;
+                            }
+                            pedaco.clear();
+                            s.escreve(a, b, pedaco);
+                            f(pedaco, formatos_[fi]);
+                        });
     }
-    for (; i < n; ++i) {
-        const char16_t c = d[i].unicode();
-        if (c == u'\r') {
-            if (i + 1 < n && d[i + 1] == u'\n') ++i;
-            iniciosLinha_.push_back(i + 1);
-        } else if (c == u'\n') {
-            iniciosLinha_.push_back(i + 1);
-        }
-    }
+}
+
+Formato DocumentoRico::formatoEm(int64_t posicao) const {
+    if (comprimento_ == 0) return formatoPadrao;
+    posicao = std::clamp<int64_t>(posicao, 0, comprimento_ - 1);
+    const Segmento& s = segmentos_[segmentoDa(posicao)];
+    return formatos_[s.formatoEm(posicao - s.inicio)];
+}
+
+int64_t DocumentoRico::inicioLinha(int64_t linha) const {
+    if (linha <= 0) return 0;
+    if (linha > fins_) return comprimento_;
+    // The segment of line end number `linha`: the last one with fewer
+    // line ends before it.
+    auto it = std::lower_bound(segmentos_.begin(), segmentos_.end(), linha,
+                               [](const Segmento& s, int64_t l) { return s.finsAntes < l; });
+    const Segmento& s = *(it - 1);
+    return s.inicio + s.depoisDoFim(linha - s.finsAntes - 1);
 }
 
 int64_t DocumentoRico::comprimentoLinha(int64_t linha) const {
-    const int64_t ini = iniciosLinha_[size_t(linha)];
-    int64_t fim = linha + 1 < quantLinhas() ? iniciosLinha_[size_t(linha + 1)] : int64_t(texto_.size());
-    while (fim > ini && (texto_[fim - 1] == u'\n' || texto_[fim - 1] == u'\r')) {
-        const bool lf = texto_[fim - 1] == u'\n';
-        --fim;
-        if (lf && fim > ini && texto_[fim - 1] == u'\r') --fim;
-        break;
+    const int64_t ini = inicioLinha(linha);
+    int64_t fim = linha >= 0 && linha < fins_ ? inicioLinha(linha + 1) : comprimento_;
+    if (fim > ini) {
+        const QChar c = caractere(fim - 1);
+        if (c == u'\n') {
+            --fim;
+            if (fim > ini && caractere(fim - 1) == u'\r') --fim;
+        } else if (c == u'\r') {
+            --fim;
+        }
     }
     return fim - ini;
 }
 
 int64_t DocumentoRico::linhaDa(int64_t posicao) const {
-    auto it = std::upper_bound(iniciosLinha_.begin(), iniciosLinha_.end(), posicao);
-    return std::max<int64_t>(0, int64_t(it - iniciosLinha_.begin()) - 1);
+    if (posicao >= comprimento_) return fins_;
+    if (posicao < 0 || segmentos_.empty()) return 0;
+    const Segmento& s = segmentos_[segmentoDa(posicao)];
+    return s.finsAntes + s.finsAte(posicao - s.inicio);
 }
 
-Formato DocumentoRico::formatoEm(int64_t posicao) const {
-    if (trechos_.empty()) return formatoPadrao;
-    auto it = std::upper_bound(trechos_.begin(), trechos_.end(), posicao,
-                               [](int64_t p, uint64_t t) { return p < int64_t(t >> 16); });
-    if (it == trechos_.begin()) return formatos_[trechos_.front() & 0xFFFF];
-    return formatos_[*(it - 1) & 0xFFFF];
-}
-
-std::vector<Trecho> DocumentoRico::trechos(int64_t inicio, int64_t fim) const {
-    std::vector<Trecho> r;
-    fim = std::min<int64_t>(fim, texto_.size());
-    if (inicio >= fim || trechos_.empty()) return r;
-    auto it = std::upper_bound(trechos_.begin(), trechos_.end(), inicio,
-                               [](int64_t p, uint64_t t) { return p < int64_t(t >> 16); });
-    if (it != trechos_.begin()) --it;
-    for (; it != trechos_.end(); ++it) {
-        const int64_t ini = int64_t(*it >> 16);
-        if (ini >= fim) break;
-        const int64_t proximo =
-            (it + 1 != trechos_.end()) ? int64_t(*(it + 1) >> 16) : int64_t(texto_.size());
-        const int64_t a = std::max(ini, inicio), b = std::min(proximo, fim);
-        if (a < b) r.push_back({a, b, formatos_[*it & 0xFFFF]});
-    }
-    return r;
-}
-
-std::vector<Trecho> DocumentoRico::trechos() const {
-    return trechos(0, texto_.size());
+size_t DocumentoRico::bytesUsados() const {
+    size_t b = segmentos_.capacity() * sizeof(Segmento) + formatos_.capacity() * sizeof(Formato);
+    for (const Segmento& s : segmentos_)
+        b += s.estreito.capacity() + s.largos.capacity() * 2 + s.fins.capacity() * 4 +
+             s.corridas.capacity() * sizeof(Corrida) + s.numeros.capacity() +
+             size_t(s.fimLinha.capacity()) * 2;
+    return b;
 }
 
 void DocumentoRico::defineVisivel(bool v) {

@@ -1,5 +1,9 @@
-// The content of a rich-text area: plain text with runs of colour and
-// weight, stored compactly so that a bank of millions of coloured lines fits.
+// The content of a rich-text area: text with runs of colour and weight,
+// stored compactly so that a bank of tens of millions of coloured lines fits.
+// The text is held in segments: pieces of text of at most 64 Ki characters,
+// in one byte a character where the Windows-1252 code page holds them all;
+// and runs of numbered bet lines, kept as their numbers (one byte each) and
+// written out only when a view, a save or a reader asks for them.
 // The Qt view (platform/qt/AreaRica) paints it; the logic writes it.
 #pragma once
 
@@ -42,9 +46,19 @@ struct Trecho {
 
 class DocumentoRico {
 public:
-    // Text read: the plain text, one character per position.
-    const QString& texto() const { return texto_; }
-    int64_t comprimento() const { return texto_.size(); }
+    DocumentoRico();
+    ~DocumentoRico();
+    DocumentoRico(const DocumentoRico&);
+    DocumentoRico& operator=(const DocumentoRico&);
+
+    // Text read: the whole plain text, or the characters inicio to fim - 1
+    // (clamped to the text), made on request.
+    QString texto() const;
+    QString texto(int64_t inicio, int64_t fim) const;
+    // The character at a position inside the text.
+    QChar caractere(int64_t posicao) const;
+    int64_t comprimento() const { return comprimento_; }
+    bool vazio() const { return comprimento_ == 0; }
 
     // Text write: replaces the whole content, in the default format.
     void defineTexto(const QString& texto);
@@ -53,24 +67,35 @@ public:
     // staged, coloured line dropped at the end of the document).
     void acrescenta(QStringView pedaco, Formato formato);
     void acrescenta(QStringView pedaco, Cor cor, bool negrito = false) { acrescenta(pedaco, {cor, negrito}); }
+    // Appends the bet line numbered n: n in at least five digits, ")   ",
+    // each of the `quant` numbers (0 to 99) in two digits and a blank, then
+    // fimLinha; its first six characters in `numero`, the rest in `aposta`.
+    void acrescentaLinhaAposta(int64_t n, const uint8_t* numeros, int quant, const QString& fimLinha,
+                               Formato numero, Formato aposta);
     // Appends another document at the end, keeping its runs.
     void acrescenta(const DocumentoRico& outro);
     // The same, taking the other's content instead of copying it when this
     // one is empty (the other is left empty).
     void acrescentaTomando(DocumentoRico& outro);
     // Replaces the characters inicio to fim - 1 by `novo` in the given
-    // format (a person's edit): only the lines of the edit are read again.
+    // format (a person's edit): only the segments of the edit are rebuilt.
     void substitui(int64_t inicio, int64_t fim, QStringView novo, Formato formato);
 
-    // Runs of equal format, in order, covering the text.
+    // Runs of equal format, in order, covering the text (or the part of it
+    // from inicio to fim); two runs in a row never share a format.
     std::vector<Trecho> trechos() const;
     std::vector<Trecho> trechos(int64_t inicio, int64_t fim) const;
+    // The same runs, one at a time, without gathering them.
+    void percorreTrechos(int64_t inicio, int64_t fim, const std::function<void(const Trecho&)>& f) const;
+    // The text from inicio to fim in order, in pieces that each lie inside
+    // one run (a run may come in several pieces).
+    void percorreTexto(int64_t inicio, int64_t fim, const std::function<void(QStringView, Formato)>& f) const;
     Formato formatoEm(int64_t posicao) const;
 
     // Lines: CR LF, CR or LF ends a line. A text that ends with a line end
     // has an empty last line.
-    int64_t quantLinhas() const { return int64_t(iniciosLinha_.size()); }
-    int64_t inicioLinha(int64_t linha) const { return iniciosLinha_[size_t(linha)]; }
+    int64_t quantLinhas() const { return 1 + fins_; }
+    int64_t inicioLinha(int64_t linha) const;
     // Length of the line without its line end.
     int64_t comprimentoLinha(int64_t linha) const;
     int64_t linhaDa(int64_t posicao) const;
@@ -90,19 +115,26 @@ public:
     // that a view can tell a rewrite from an append.
     uint64_t geracao() const { return geracao_; }
 
+    // Bytes held by the content (for the memory budget).
+    size_t bytesUsados() const;
+
     Formato formatoPadrao;
 
+    struct Segmento;
+
 private:
-    void indexaLinhas(int64_t desde);
     void mudou();
     uint16_t indiceFormato(Formato f);
+    void acrescentaTexto(QStringView pedaco, uint16_t formato);
+    void esvazia();
+    void reindexa(size_t desde);
+    size_t segmentoDa(int64_t posicao) const;
 
-    QString texto_;
-    // Each run: start position << 16 | index in formatos_.
-    std::vector<uint64_t> trechos_;
+    std::vector<Segmento> segmentos_;
     std::vector<Formato> formatos_;
     std::unordered_map<uint64_t, uint16_t> indices_; // of formatos_, by format
-    std::vector<int64_t> iniciosLinha_{0};
+    int64_t comprimento_ = 0;
+    int64_t fins_ = 0; // line ends in the text
     bool visivel_ = true;
     uint64_t versao_ = 0;
     uint64_t geracao_ = 0;

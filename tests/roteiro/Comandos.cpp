@@ -2,7 +2,7 @@
 #include "Acoes.h"
 #include "Observacao.h"
 #include "Roteiro.h"
-#include "core/Cp1252.h"
+#include "base/Cp1252.h"
 #include "core/Estado.h"
 #include "forms/Apresenta.h"
 #include "forms/Sorvelo.h"

@@ -1,6 +1,6 @@
 // The code page of the bet file: Windows-1252 by a fixed table, in which
 // every byte survives a round trip.
-#include "core/Cp1252.h"
+#include "base/Cp1252.h"
 
 #include <gtest/gtest.h>
 

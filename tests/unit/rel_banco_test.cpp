@@ -18,7 +18,7 @@ struct Listagem : ProgramaTeste {
     std::unique_ptr<RelBanco> forma;
     explicit Listagem(const QString& jogo = QStringLiteral("Mega-Sena")) : ProgramaTeste(jogo) {}
     // Load and the first activation, as the form shows it.
-    const QString& abre(const QStringList& fontes = FontesTela) {
+    QString abre(const QStringList& fontes = FontesTela) {
         forma = std::make_unique<RelBanco>(p);
         forma->Carrega(fontes, 19200, 14400);
         forma->Ativa();

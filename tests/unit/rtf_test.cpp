@@ -1,5 +1,5 @@
+#include "base/Cp1252.h"
 #include "core/BancoApostas.h"
-#include "core/Cp1252.h"
 #include "core/Rtf.h"
 
 #include <QStringEncoder>

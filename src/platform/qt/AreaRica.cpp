@@ -157,7 +157,7 @@ QString AreaRica::textoSelecionado() const {
     if (!doc_) return QString();
     const int64_t n = doc_->comprimento();
     const int64_t ini = std::min(inicioSelecao(), n), fim = std::min(fimSelecao(), n);
-    return doc_->texto().mid(ini, fim - ini);
+    return doc_->texto(ini, fim);
 }
 
 int64_t AreaRica::primeiraLinhaVisivel() const {
@@ -197,7 +197,7 @@ void AreaRica::rolaParaFim() {
 
 qreal AreaRica::largura(int64_t inicio, int64_t fim, bool negrito) const {
     if (fim <= inicio) return 0;
-    const QString pedaco = QString::fromRawData(doc_->texto().constData() + inicio, qsizetype(fim - inicio));
+    const QString pedaco = doc_->texto(inicio, fim);
     return (negrito ? metricasNegrito_ : metricas_).horizontalAdvance(pedaco);
 }
 
@@ -230,7 +230,7 @@ int64_t AreaRica::caractereNaLinha(int64_t linha, qreal x) const {
             }
             const qreal wl = largura(t.inicio, lo, negrito), wh = largura(t.inicio, hi, negrito);
             int64_t k = (xr - wl <= wh - xr) ? lo : hi;
-            if (k > ini && k < fim && doc_->texto()[qsizetype(k)].isLowSurrogate()) --k;
+            if (k > ini && k < fim && doc_->caractere(k).isLowSurrogate()) --k;
             return k;
         }
         acumulado += w;
@@ -295,7 +295,7 @@ qreal AreaRica::pintaLinha(QPainter& p, int64_t linha, qreal y, int64_t selIni, 
         for (int i = 0; i < 3; ++i) {
             const int64_t a = cortes[i], b = cortes[i + 1];
             if (a >= b) continue;
-            const QString pedaco = QString::fromRawData(doc_->texto().constData() + a, qsizetype(b - a));
+            const QString pedaco = doc_->texto(a, b);
             const qreal w = (negrito ? metricasNegrito_ : metricas_).horizontalAdvance(pedaco);
             if (x + w >= 0 && x <= limite) {
                 if (a >= selIni && b <= selFim) {
@@ -381,14 +381,14 @@ void AreaRica::mouseDoubleClickEvent(QMouseEvent* e) {
         QAbstractScrollArea::mouseDoubleClickEvent(e);
         return;
     }
-    const QString& texto = doc_->texto();
-    const int64_t n = texto.size();
+    const DocumentoRico& d = *doc_;
+    const int64_t n = d.comprimento();
     int64_t ini = posicaoEm(e->position().toPoint()), fim = ini;
-    if (ini < n && !ehDePalavra(texto[qsizetype(ini)]) && ini > 0 && ehDePalavra(texto[qsizetype(ini - 1)]))
+    if (ini < n && !ehDePalavra(d.caractere(ini)) && ini > 0 && ehDePalavra(d.caractere(ini - 1)))
         --ini, --fim;
-    while (ini > 0 && ehDePalavra(texto[qsizetype(ini - 1)]))
+    while (ini > 0 && ehDePalavra(d.caractere(ini - 1)))
         --ini;
-    while (fim < n && ehDePalavra(texto[qsizetype(fim)]))
+    while (fim < n && ehDePalavra(d.caractere(fim)))
         ++fim;
     ancora_ = ini;
     posicao_ = fim;
@@ -468,18 +468,18 @@ void AreaRica::apaga(bool paraTras) {
     const int64_t n = comprimentoDoc();
     int64_t ini = std::min(inicioSelecao(), n), fim = std::min(fimSelecao(), n);
     if (ini == fim) {
-        const QString& t = doc_->texto();
+        const DocumentoRico& t = *doc_;
         if (paraTras) {
             if (ini == 0) return;
             --ini;
-            if (ini > 0 && ((t[qsizetype(ini)] == u'\n' && t[qsizetype(ini - 1)] == u'\r') ||
-                            t[qsizetype(ini)].isLowSurrogate()))
+            if (ini > 0 && ((t.caractere(ini) == u'\n' && t.caractere(ini - 1) == u'\r') ||
+                            t.caractere(ini).isLowSurrogate()))
                 --ini;
         } else {
             if (fim >= n) return;
             ++fim;
-            if (fim < n && ((t[qsizetype(fim - 1)] == u'\r' && t[qsizetype(fim)] == u'\n') ||
-                            t[qsizetype(fim)].isLowSurrogate()))
+            if (fim < n && ((t.caractere(fim - 1) == u'\r' && t.caractere(fim) == u'\n') ||
+                            t.caractere(fim).isLowSurrogate()))
                 ++fim;
         }
     }
