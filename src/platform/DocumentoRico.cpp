@@ -195,6 +195,30 @@ int64_t DocumentoRico::linhaDa(int64_t posicao) const {
     return s.finsAntes + s.finsAte(posicao - s.inicio);
 }
 
+std::pair<int64_t, int64_t> DocumentoRico::linhaMaisLonga(int64_t desde) const {
+    std::pair<int64_t, int64_t> maior{-1, -1};
+    const int64_t linhas = quantLinhas();
+    for (int64_t l = std::max<int64_t>(desde, 0); l < linhas;) {
+        const int64_t ini = inicioLinha(l);
+        if (ini < comprimento_) {
+            const Segmento& s = segmentos_[segmentoDa(ini)];
+            const int64_t r = ini - s.inicio;
+            if (s.apostas && r % s.largura == 0) {
+                // Lines j to the last of a bet segment: all of one length.
+                const int64_t fimLinha = s.fimLinha.endsWith(QStringLiteral("\r\n")) ? 2 : 1;
+                const int64_t c = s.largura - fimLinha;
+                if (c > maior.second) maior = {l, c};
+                l += s.quant - r / s.largura;
+                continue;
+            }
+        }
+        const int64_t c = comprimentoLinha(l);
+        if (c > maior.second) maior = {l, c};
+        ++l;
+    }
+    return maior;
+}
+
 size_t DocumentoRico::bytesUsados() const {
     size_t b = segmentos_.capacity() * sizeof(Segmento) + formatos_.capacity() * sizeof(Formato);
     for (const Segmento& s : segmentos_)

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <functional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace sorvelo {
@@ -99,6 +100,10 @@ public:
     // Length of the line without its line end.
     int64_t comprimentoLinha(int64_t linha) const;
     int64_t linhaDa(int64_t posicao) const;
+    // The longest line from line `desde` on (the first of equal ones), as
+    // {line, length}; {-1, -1} when there is none. Runs of bet lines of one
+    // length are passed over at once.
+    std::pair<int64_t, int64_t> linhaMaisLonga(int64_t desde) const;
 
     bool visivel() const { return visivel_; }
     void defineVisivel(bool v);

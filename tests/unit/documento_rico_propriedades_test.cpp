@@ -182,6 +182,13 @@ void compara(Par& par) {
     const int64_t linhas = s.quantLinhas();
     for (int64_t primeira : {int64_t(0), linhas / 2, linhas - 20, int64_t(par.sorteia(int(linhas)))})
         comparaJanela(par, primeira, 25);
+    // The longest line from a line on, as a view measures its width.
+    for (int64_t desde : {int64_t(0), int64_t(par.sorteia(int(linhas)))}) {
+        std::pair<int64_t, int64_t> maior{-1, -1};
+        for (int64_t l = desde; l < linhas; ++l)
+            if (s.comprimentoLinha(l) > maior.second) maior = {l, s.comprimentoLinha(l)};
+        ASSERT_EQ(r.linhaMaisLonga(desde), maior) << desde;
+    }
     // TextRTF: the same bytes as the plain writer gives for the reference.
     ASSERT_EQ(escreveRtf(r), escreveRtfSimples(s));
 }

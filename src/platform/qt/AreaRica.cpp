@@ -122,15 +122,12 @@ void AreaRica::atualiza() {
 }
 
 void AreaRica::varreLinhas(int64_t desde) {
-    const int64_t n = doc_->quantLinhas();
-    for (int64_t l = desde; l < n; ++l) {
-        const int64_t c = doc_->comprimentoLinha(l);
-        if (c > maiorComprimento_) {
-            maiorComprimento_ = c;
-            linhaMaisLonga_ = l;
-        }
+    const auto [linha, comprimento] = doc_->linhaMaisLonga(desde);
+    if (comprimento > maiorComprimento_) {
+        maiorComprimento_ = comprimento;
+        linhaMaisLonga_ = linha;
     }
-    linhasVarridas_ = n;
+    linhasVarridas_ = doc_->quantLinhas();
 }
 
 void AreaRica::ajustaBarras() {
