@@ -93,7 +93,9 @@ void AbridorConduzido::abre(const QString& endereco) {
 
 void CedenciaConduzida::cede() {
     c_.cedeu();
+    if (!ritmo_.devida()) return;
     QCoreApplication::processEvents();
+    ritmo_.rodou();
 }
 
 } // namespace sorvelo::roteiro

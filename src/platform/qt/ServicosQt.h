@@ -76,6 +76,9 @@ public:
 using RelogioMs = std::function<int64_t()>;
 RelogioMs relogioMonotonico();
 
+// How long a yield lets pass between two runs of the message loop.
+constexpr int IntervaloCedenciaMs = 10;
+
 // When a yield runs the message loop: at the first call, then once
 // `intervaloMs` have passed since the loop last ran. A loop of millions of
 // yields should not pay for a clock read on each, so the clock is read every
@@ -107,7 +110,7 @@ private:
 // `intervaloMs`, after bringing every form up to date.
 class CedenciaQt : public Cedencia {
 public:
-    explicit CedenciaQt(int intervaloMs = 10, RelogioMs agoraMs = relogioMonotonico())
+    explicit CedenciaQt(int intervaloMs = IntervaloCedenciaMs, RelogioMs agoraMs = relogioMonotonico())
         : ritmo_(intervaloMs, std::move(agoraMs)) {}
     void cede() override;
 
