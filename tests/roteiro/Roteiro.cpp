@@ -224,7 +224,7 @@ void Roteiro::cedeu() {
     ++pulso_;
     ++cedencias_;
     // Most yields run no event loop, where the wait is checked otherwise.
-    if (cedencias_ % 1024 == 0 && !Atividade::ocioso()) verificaEspera();
+    if (cedencias_ % 64 == 0 && !Atividade::ocioso()) verificaEspera();
     for (size_t i = 0; i < armadas_.size() && !fim_; ++i) {
         if (armadas_[i].feita || armadas_[i].cedencia != cedencias_) continue;
         armadas_[i].feita = true;
