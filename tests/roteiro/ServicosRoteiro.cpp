@@ -11,6 +11,12 @@
 
 namespace sorvelo::roteiro {
 
+namespace {
+RelogioMs relogioDe(const Condutor& c) {
+    return [&c] { return c.agoraMs(); };
+}
+} // namespace
+
 QString nomeResposta(Resposta r) {
     switch (r) {
     case Resposta::OK:
@@ -90,6 +96,8 @@ void ImpressoraConduzida::defineArquivo(const QString& caminho) {
 void AbridorConduzido::abre(const QString& endereco) {
     c_.anota(QStringLiteral("abre ") + aspas(endereco));
 }
+
+CedenciaConduzida::CedenciaConduzida(Condutor& c) : c_(c), ritmo_(IntervaloCedenciaMs, relogioDe(c), 1) {}
 
 void CedenciaConduzida::cede() {
     c_.cedeu();

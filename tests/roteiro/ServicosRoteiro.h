@@ -86,9 +86,7 @@ private:
 // The virtual clock costs nothing to read, so every yield reads it.
 class CedenciaConduzida : public Cedencia {
 public:
-    explicit CedenciaConduzida(Condutor& c)
-        : c_(c), ritmo_(
-                     IntervaloCedenciaMs, [&c] { return c.agoraMs(); }, 1) {}
+    explicit CedenciaConduzida(Condutor& c);
     void cede() override;
     // A line of the scenario acted, or a box or a dialog was answered: the
     // next yield runs the event loop.
