@@ -135,6 +135,13 @@ bool Roteiro::acessivel(const LinhaCenario& l, QObject* c, bool ativaJanela) {
 void Roteiro::executaLinha(const LinhaCenario& l) {
     if (fim_) return;
     if (!l.erro.isEmpty()) return erro(l.numero, l.erro);
+    // The first yield inside the line's action runs the event loop, and so
+    // does the first one after it.
+    struct Agiu {
+        CedenciaConduzida& c;
+        ~Agiu() { c.linhaAgiu(); }
+    } agiu{servicos_.cedencia};
+    servicos_.cedencia.linhaAgiu();
     const QString& c = l.comando();
     if (c == QStringLiteral("clica"))
         cmdClica(l);

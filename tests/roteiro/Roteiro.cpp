@@ -223,6 +223,8 @@ bool Roteiro::verificaArmadas() {
 void Roteiro::cedeu() {
     ++pulso_;
     ++cedencias_;
+    // Most yields run no event loop, where the wait is checked otherwise.
+    if (cedencias_ % 64 == 0 && !Atividade::ocioso()) verificaEspera();
     for (size_t i = 0; i < armadas_.size() && !fim_; ++i) {
         if (armadas_[i].feita || armadas_[i].cedencia != cedencias_) continue;
         armadas_[i].feita = true;
@@ -288,6 +290,7 @@ Resposta Roteiro::atendeCaixa(const QString& tipo, const QString& texto, const Q
         return padrao;
     }
     anota(QStringLiteral("resposta ") + nomeResposta(r));
+    servicos_.cedencia.linhaAgiu();
     return r;
 }
 
@@ -302,6 +305,7 @@ QString Roteiro::atendeDialogo(bool salvar, const QString& titulo, const QString
     const Arquivo a = arquivos_.front();
     arquivos_.pop_front();
     anota(QStringLiteral("resposta ") + (a.cancela ? QStringLiteral("cancela") : aspas(a.caminho)));
+    servicos_.cedencia.linhaAgiu();
     return a.cancela ? QString() : a.caminho;
 }
 

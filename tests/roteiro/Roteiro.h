@@ -65,6 +65,7 @@ public:
     QString atendeDialogo(bool salvar, const QString& titulo, const QString& filtro) override;
     void anota(const QString& linha) override { saida_.linha(linha); }
     void cedeu() override;
+    int64_t agoraMs() const override { return tempo_.agora(); }
 
 protected:
     bool eventFilter(QObject* alvo, QEvent* e) override;

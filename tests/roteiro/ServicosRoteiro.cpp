@@ -11,6 +11,12 @@
 
 namespace sorvelo::roteiro {
 
+namespace {
+RelogioMs relogioDe(const Condutor& c) {
+    return [&c] { return c.agoraMs(); };
+}
+} // namespace
+
 QString nomeResposta(Resposta r) {
     switch (r) {
     case Resposta::OK:
@@ -91,9 +97,13 @@ void AbridorConduzido::abre(const QString& endereco) {
     c_.anota(QStringLiteral("abre ") + aspas(endereco));
 }
 
+CedenciaConduzida::CedenciaConduzida(Condutor& c) : c_(c), ritmo_(IntervaloCedenciaMs, relogioDe(c), 1) {}
+
 void CedenciaConduzida::cede() {
     c_.cedeu();
+    if (!ritmo_.devida()) return;
     QCoreApplication::processEvents();
+    ritmo_.rodou();
 }
 
 } // namespace sorvelo::roteiro

@@ -5,6 +5,7 @@
 
 #include "apoio/Duplos.h"
 #include "platform/Servicos.h"
+#include "platform/qt/ServicosQt.h"
 
 #include <QList>
 
@@ -23,6 +24,8 @@ public:
     virtual void anota(const QString& linha) = 0;
     // The program yields to the message loop.
     virtual void cedeu() = 0;
+    // The runner's virtual clock, in milliseconds.
+    virtual int64_t agoraMs() const = 0;
 };
 
 // The words of the answers, as the scenario and the transcript write them.
@@ -74,15 +77,24 @@ private:
     Condutor& c_;
 };
 
-// The yield: the runner counts it (and may run a line in it), then the
-// event loop runs as in the program's own yield.
+// The yield: the runner counts every one (and may run a line in it); the
+// event loop runs by the program's own rule on the runner's virtual clock,
+// which only `espera` moves. A line of the scenario reaches the program
+// through the event loop, so the first yield after a line runs it at once;
+// the yields that follow run it only once the virtual clock has moved by the
+// interval. No real time enters: a scenario yields alike on every machine.
+// The virtual clock costs nothing to read, so every yield reads it.
 class CedenciaConduzida : public Cedencia {
 public:
-    explicit CedenciaConduzida(Condutor& c) : c_(c) {}
+    explicit CedenciaConduzida(Condutor& c);
     void cede() override;
+    // A line of the scenario acted, or a box or a dialog was answered: the
+    // next yield runs the event loop.
+    void linhaAgiu() { ritmo_.reinicia(); }
 
 private:
     Condutor& c_;
+    RitmoCedencia ritmo_;
 };
 
 struct ServicosRoteiro {

@@ -69,6 +69,12 @@ Espera e tempo:
   o tempo correr, entregando os disparos devidos um a um, em ordem de tempo; as
   cedências do programa NÃO fazem o tempo correr (para um disparo no meio de um
   trabalho, `na_cedencia N espera 500`).
+  Cada cedência conta para `na_cedencia`, mas o laço de mensagens só roda nela pela
+  regra do programa, no máximo a cada 10 ms, aqui no relógio virtual: a primeira
+  cedência depois de cada linha do cenário (ou de uma caixa ou de um diálogo
+  respondidos) roda o laço; as seguintes, só depois que o relógio virtual andar 10 ms.
+  Uma linha de `na_cedencia` roda o laço na própria cedência, logo depois dela.
+  Assim um trabalho longo cede como no programa, e igual em qualquer máquina.
   Nenhuma resposta sai de uma caixa ou de um diálogo sem uma linha do cenário.
 
 Transcrição (uma linha cada, UTF-8):

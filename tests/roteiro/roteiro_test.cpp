@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -53,6 +54,14 @@ void botoesDeTeste(Sorvelo& j) {
         }
     });
     botao(j, "BtnCancelaTeste", [&p] { p.e.Cancelado = true; });
+    // Yields five times, each after posting an event that adds an "x" to
+    // Historico: the "x"s tell how many times the event loop ran.
+    botao(j, "BtnCedeComEventos", [&p] {
+        for (int i = 0; i < 5; ++i) {
+            QTimer::singleShot(0, [&p] { p.e.Historico += QStringLiteral("x"); });
+            p.s.cedencia->cede();
+        }
+    });
     botao(j, "BtnAbreModal", [&j, &p] {
         QDialog d(&j);
         d.setObjectName(QStringLiteral("DialogoTeste"));
@@ -184,6 +193,22 @@ TEST(NaCedencia, OTimerDisparaNumaCedenciaSoComEspera) {
                             "mostra QuantBan\n");
     EXPECT_EQ(r.status, 0);
     EXPECT_EQ(r.transcricao, QStringLiteral("TxtQuantApostas = \" 2\"\nQuantBan = \"5\"\n"));
+}
+
+TEST(NaCedencia, SoAPrimeiraCedenciaDepoisDeUmaLinhaRodaOLacoDeMensagens) {
+    // Yield 1 runs the loop; 2, 3 and 4 do not, the virtual clock standing
+    // still. The handler's end leaves the rest to the loop.
+    const Execucao r = roda("clica BtnCedeComEventos\nna_cedencia 4 mostra Historico\nmostra Historico\n");
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.transcricao, QStringLiteral("Historico = \"x\"\nHistorico = \"xxxxx\"\n"));
+}
+
+TEST(NaCedencia, UmaLinhaNaCedenciaRodaOLacoNessaCedencia) {
+    // The line in yield 2 sees the loop's one run; the loop runs after it.
+    const Execucao r = roda("clica BtnCedeComEventos\nna_cedencia 2 mostra Historico\n"
+                            "na_cedencia 4 mostra Historico\n");
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.transcricao, QStringLiteral("Historico = \"x\"\nHistorico = \"xx\"\n"));
 }
 
 TEST(NaCedencia, CedenciaQueNaoHouveEErroDoCenario) {

@@ -24,6 +24,7 @@
 #include <QTranslator>
 #include <QUrl>
 
+#include <algorithm>
 #include <chrono>
 
 namespace sorvelo {
@@ -280,11 +281,31 @@ RelogioMs relogioMonotonico() {
     };
 }
 
+bool RitmoCedencia::devida() {
+    if (ultima_ < 0) return true;
+    if (++chamadas_ < passo_) return false;
+    chamadas_ = 0;
+    const int64_t agora = agoraMs_();
+    const int64_t desde = agora - leitura_;
+    leitura_ = agora;
+    if (desde * 4 < intervaloMs_)
+        passo_ = std::min(passo_ * 2, passoMaximo_);
+    else if (desde > intervaloMs_)
+        // As many calls as took one interval at the pace just seen.
+        passo_ = int(std::max<int64_t>(1, std::min<int64_t>(passo_ / 2, passo_ * intervaloMs_ / desde)));
+    return agora - ultima_ >= intervaloMs_;
+}
+
+void RitmoCedencia::rodou() {
+    ultima_ = leitura_ = agoraMs_();
+    chamadas_ = 0;
+}
+
 void CedenciaQt::cede() {
-    if (ultima_ >= 0 && agoraMs_() - ultima_ < intervaloMs_) return;
+    if (!ritmo_.devida()) return;
     atualizaVistas();
     QCoreApplication::processEvents();
-    ultima_ = agoraMs_();
+    ritmo_.rodou();
 }
 
 void AbridorQt::abre(const QString& endereco) {

@@ -72,25 +72,50 @@ public:
     QDateTime agora() override { return QDateTime::currentDateTime(); }
 };
 
-// Runs the message loop when some milliseconds have passed since it last
-// ran: the dialogs stay responsive while a loop of millions of yields pays
-// for a clock read on most of them.
 // A monotonic clock in milliseconds (tests give one of their own).
 using RelogioMs = std::function<int64_t()>;
 RelogioMs relogioMonotonico();
+
+// How long a yield lets pass between two runs of the message loop.
+constexpr int IntervaloCedenciaMs = 10;
+
+// When a yield runs the message loop: at the first call, then once
+// `intervaloMs` have passed since the loop last ran. A loop of millions of
+// yields should not pay for a clock read on each, so the clock is read every
+// `passo_` calls: the stride doubles (up to `passoMaximo`) while reads come
+// much sooner than the interval, and shrinks as soon as a read comes later
+// than the interval, down to one call when calls are slow.
+class RitmoCedencia {
+public:
+    explicit RitmoCedencia(int intervaloMs, RelogioMs agoraMs, int passoMaximo = 4096)
+        : intervaloMs_(intervaloMs), passoMaximo_(passoMaximo), agoraMs_(std::move(agoraMs)) {}
+    // Counts a call; true when the loop is due.
+    bool devida();
+    // The loop has just run.
+    void rodou();
+    // The next call is due at once, as the first one.
+    void reinicia() { ultima_ = -1; }
+
+private:
+    int intervaloMs_;
+    int passoMaximo_;
+    RelogioMs agoraMs_;
+    int64_t ultima_ = -1; // when the loop last ran
+    int64_t leitura_ = 0; // the last clock read
+    int passo_ = 1;       // calls between clock reads
+    int chamadas_ = 0;    // calls since the last read
+};
 
 // The yield to the message loop: it runs the loop at most every
 // `intervaloMs`, after bringing every form up to date.
 class CedenciaQt : public Cedencia {
 public:
-    explicit CedenciaQt(int intervaloMs = 10, RelogioMs agoraMs = relogioMonotonico())
-        : intervaloMs_(intervaloMs), agoraMs_(std::move(agoraMs)) {}
+    explicit CedenciaQt(int intervaloMs = IntervaloCedenciaMs, RelogioMs agoraMs = relogioMonotonico())
+        : ritmo_(intervaloMs, std::move(agoraMs)) {}
     void cede() override;
 
 private:
-    int intervaloMs_;
-    RelogioMs agoraMs_;
-    int64_t ultima_ = -1; // when the loop last ran
+    RitmoCedencia ritmo_;
 };
 
 class AbridorQt : public Abridor {
