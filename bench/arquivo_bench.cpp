@@ -4,6 +4,7 @@
 #include "core/ArquivoApostas.h"
 #include "core/BancoApostas.h"
 #include "core/Principal.h"
+#include "core/Rtf.h"
 #include "programa/Programa.h"
 
 #include <QFile>
@@ -74,6 +75,9 @@ int main() {
         montaBanco(s.p, 1000000);
         std::printf("montagem do banco de 1.000.000 apostas: %.3f s (não faz parte da medida)\n",
                     segundos(t));
+        t = Cronometro::now();
+        const std::string rtf = escreveRtfTexto(s.p.tela.TxtBanco);
+        std::printf("texto RTF do banco sozinho: %.3f s (%.1f MB)\n", segundos(t), double(rtf.size()) / 1e6);
         const QString nome = pasta.filePath(QStringLiteral("milhao.Apo"));
         s.d.dialogo.enfileira(nome);
         t = Cronometro::now();

@@ -45,8 +45,20 @@ public:
     size_t quantos() const { return lista_->itens.size(); }
 
     void operator()(Args... args) const {
-        // A listener may take itself off while it is told.
-        const auto copia = lista_->itens;
+        // A listener may take itself off, or add another, while it is told:
+        // the listeners of the moment are told from a copy (on the stack
+        // when they are few, as they nearly always are).
+        const std::vector<Item>& itens = lista_->itens;
+        if (itens.size() <= Poucos) {
+            Ouvinte copia[Poucos];
+            const size_t n = itens.size();
+            for (size_t i = 0; i < n; ++i)
+                copia[i] = itens[i].f;
+            for (size_t i = 0; i < n; ++i)
+                copia[i](args...);
+            return;
+        }
+        const auto copia = itens;
         for (const auto& o : copia)
             o.f(args...);
     }
@@ -54,6 +66,7 @@ public:
     std::weak_ptr<Lista> lista() const { return lista_; }
 
 private:
+    static constexpr size_t Poucos = 4;
     std::shared_ptr<Lista> lista_ = std::make_shared<Lista>();
 };
 

@@ -37,6 +37,12 @@ QString MatrizTexto::textoDe(uint8_t codigo) {
 }
 
 void MatrizTexto::defineQuantLinhas(int64_t quant) {
+    // One more row, in a block with room: the common step of a bank that grows.
+    if (quant == quantLinhas_ + 1 && quantLinhas_ % BlocoLinhas != 0) {
+        blocos_.back().push_back(0);
+        quantLinhas_ = quant;
+        return;
+    }
     // Blocks beyond the rows go; the last block keeps just its rows, and
     // the rows it gains start empty.
     const size_t blocos = size_t((quant + BlocoLinhas - 1) >> BitsBloco);

@@ -295,7 +295,7 @@ void GravaArquivo(Nucleo& p, const QString& Nome) {
     Gravador g(arquivo);
     g.campo(e.NomeLoteria);
     g.campo(TextoMarcados(p));
-    g.campo(escreveRtf(t.TxtBanco));
+    g.campo(escreveRtfTexto(t.TxtBanco));
     g.campo(t.TxtQuantApostas.Text);
     g.campo(t.TxtValorApostas.Text);
     g.campo(bytesVetBan(p));

@@ -50,15 +50,30 @@ public:
         if (n > 0) depoisDeCr_ = false;
         if (i >= n) return;
         formato(f);
-        for (; i < n; ++i) {
+        while (i < n) {
+            // A stretch of plain characters is copied at once.
+            qsizetype j = i;
+            while (j < n && simples(texto[j].unicode()))
+                ++j;
+            if (j > i) {
+                const size_t base = s_.size();
+                s_.resize(base + size_t(j - i));
+                char* d = s_.data() + base;
+                for (; i < j; ++i)
+                    *d++ = char(texto[i].unicode());
+                continue;
+            }
             const char16_t c = texto[i].unicode();
             if (c == u'\r' && i + 1 < n && texto[i + 1] == u'\n') ++i;
             caractere(c);
+            ++i;
         }
         depoisDeCr_ = texto[n - 1] == u'\r';
     }
 
 private:
+    static bool simples(char16_t c) { return c >= 0x20 && c < 0x7F && c != u'\\' && c != u'{' && c != u'}'; }
+
     void formato(Formato f) {
         const int cor = indices_.at(f.cor);
         bool mudou = false;
@@ -105,6 +120,11 @@ private:
 } // namespace
 
 QByteArray escreveRtf(const DocumentoRico& documento) {
+    const std::string s = escreveRtfTexto(documento);
+    return QByteArray(s.data(), qsizetype(s.size()));
+}
+
+std::string escreveRtfTexto(const DocumentoRico& documento) {
     if (documento.comprimento() == 0) return {};
 
     // Colour table in the order of first use; entry 0 stays "auto".
@@ -118,7 +138,9 @@ QByteArray escreveRtf(const DocumentoRico& documento) {
 
     std::string s;
     try {
-        s.reserve(size_t(documento.comprimento()) + size_t(trechos) * 8 + cores.size() * 32 + 256);
+        // Room for the text, a "\\par" a line and a change of format a run.
+        s.reserve(size_t(documento.comprimento()) + size_t(documento.quantLinhas()) * 5 +
+                  size_t(trechos) * 6 + cores.size() * 32 + 256);
         s += "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\r\n{\\colortbl ;";
         for (Cor c : cores) {
             s += "\\red";
@@ -134,7 +156,7 @@ QByteArray escreveRtf(const DocumentoRico& documento) {
         documento.percorreTexto(0, documento.comprimento(),
                                 [&escritor](QStringView texto, Formato f) { escritor.pedaco(texto, f); });
         s += "}\r\n";
-        return QByteArray(s.data(), qsizetype(s.size()));
+        return s;
     } catch (const std::bad_alloc&) {
         throw FalhaExecucao(erro::MemoriaInsuficiente);
     }

@@ -8,6 +8,8 @@
 
 #include <QByteArray>
 
+#include <string>
+
 namespace sorvelo {
 
 // The whole content as RTF, with a colour table of the colours in use,
@@ -15,6 +17,8 @@ namespace sorvelo {
 // a lone CR or a lone LF), \'hh for the code page's upper half and \uN? for
 // characters outside it. An empty document gives an empty text.
 QByteArray escreveRtf(const DocumentoRico& documento);
+// The same bytes, without the copy into a QByteArray (for the bet file).
+std::string escreveRtfTexto(const DocumentoRico& documento);
 
 // Replaces the whole content by the document read from rtf (one change).
 // Groups nest; unknown control words, \* destinations and the font table,

@@ -6,6 +6,7 @@
 #include "platform/SegmentoDocumento.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <new>
 
 namespace sorvelo {
@@ -96,9 +97,17 @@ void DocumentoRico::acrescentaLinhaAposta(int64_t n, const uint8_t* numeros, int
         return;
     }
     try {
-        const uint16_t fn = indiceFormato(numero), fa = indiceFormato(aposta);
-        const int digitos = digitosDoNumero(n);
         Segmento* s = segmentos_.empty() ? nullptr : &segmentos_.back();
+        // The formats of the bet segment being written are found without
+        // looking them up.
+        const bool mesmosFormatos =
+            s && s->apostas && formatos_[s->formatoNumero] == numero && formatos_[s->formatoAposta] == aposta;
+        const uint16_t fn = mesmosFormatos ? s->formatoNumero : indiceFormato(numero);
+        const uint16_t fa = mesmosFormatos ? s->formatoAposta : indiceFormato(aposta);
+        // The number keeps the width of the segment's numbers while it stays
+        // below the next power of ten.
+        const bool continua = mesmosFormatos && s->n0 + s->quant == n && n < s->limiteNumeros;
+        const int digitos = continua ? s->digitos : digitosDoNumero(n);
         if (!s || !s->apostas || s->quant >= Segmento::LimiteLinhas || s->numerosPorLinha != quant ||
             s->digitos != digitos || s->formatoNumero != fn || s->formatoAposta != fa ||
             s->n0 + s->quant != n || s->fimLinha != fimLinha) {
@@ -110,6 +119,7 @@ void DocumentoRico::acrescentaLinhaAposta(int64_t n, const uint8_t* numeros, int
             novo.n0 = n;
             novo.numerosPorLinha = quant;
             novo.digitos = digitos;
+            novo.limiteNumeros = digitos >= 19 ? INT64_MAX : potenciaDeDez(digitos);
             novo.largura = digitos + 4 + 3 * quant + int32_t(fimLinha.size());
             novo.formatoNumero = fn;
             novo.formatoAposta = fa;

@@ -13,6 +13,13 @@ int digitosDoNumero(int64_t n) {
     return std::max(d, 5);
 }
 
+int64_t potenciaDeDez(int d) {
+    int64_t p = 1;
+    for (int i = 0; i < d; ++i)
+        p *= 10;
+    return p;
+}
+
 int64_t DocumentoRico::Segmento::finsAte(int64_t r) const {
     if (apostas) return std::min<int64_t>(r / largura, quant);
     return int64_t(

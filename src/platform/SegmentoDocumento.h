@@ -45,7 +45,8 @@ struct DocumentoRico::Segmento {
     int32_t quant = 0;
     int32_t numerosPorLinha = 0;
     int32_t digitos = 0;
-    int32_t largura = 0; // characters of a line, with its line end
+    int64_t limiteNumeros = 0; // the first number that needs more digits
+    int32_t largura = 0;       // characters of a line, with its line end
     uint16_t formatoNumero = 0, formatoAposta = 0;
     QString fimLinha;
     std::vector<uint8_t> numeros;
@@ -97,5 +98,7 @@ template <typename F> void DocumentoRico::Segmento::corridasEntre(int64_t a, int
 
 // The digits of n (n >= 0), at least five.
 int digitosDoNumero(int64_t n);
+// 10 to the power d (0 <= d <= 18).
+int64_t potenciaDeDez(int d);
 
 } // namespace sorvelo
