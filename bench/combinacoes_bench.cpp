@@ -15,6 +15,7 @@
 #include "programa/Programa.h"
 
 #include "platform/qt/ServicosQt.h"
+#include "platform/qt/Vista.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -113,10 +114,14 @@ struct Cenario {
     std::function<void(Programa&)> executa;
 };
 
-struct Janela {
+// The counter label follows its text when the yield brings the windows up
+// to date, as the dialog's does.
+struct Janela : Vista {
     QWidget janela;
     QProgressBar barra;
     QLabel contador;
+    QString contagem;
+    void sincroniza() override { contador.setText(contagem); }
     Janela() {
         auto* l = new QVBoxLayout(&janela);
         l->addWidget(&barra);
@@ -146,7 +151,7 @@ void roda(const Cenario& c, const Cedencias& ced, Janela& tela) {
     });
     d->dialogos.quando(Dialogo::InsereVetor, [&prog, &tela] {
         InsereVetor dlg(prog, prog.module2);
-        dlg.aoContar.liga([&tela](const QString& t) { tela.contador.setText(t); });
+        dlg.aoContar.liga([&tela](const QString& t) { tela.contagem = t; });
         dlg.ativa();
     });
     module2(*p).aoMudarProgresso.liga([&tela](const BarraProgresso& b) {

@@ -3,6 +3,7 @@
 #include "core/Module1.h"
 
 #include <algorithm>
+#include <bit>
 #include <new>
 #include <stdexcept>
 
@@ -140,14 +141,7 @@ int GravaCombinacao(Nucleo& p, Module2& m) {
     uint8_t codigos[82] = {};
     int col = 0;
     bool simples = true;
-    // The excluded positions ascend strictly, so that one walk along them
-    // answers PosicaoExcluida for every index.
-    int64_t j = 0;
-    for (int64_t idx = 0; idx <= ultIndice; ++idx) {
-        if (j <= ultPos && pos[j].valor() == idx) {
-            ++j;
-            continue;
-        }
+    const auto toma = [&](int64_t idx) {
         if (col > 81) foraDoIntervalo();
         const int v = num[idx].valor();
         if (v >= 0 && v <= 99) {
@@ -157,12 +151,42 @@ int GravaCombinacao(Nucleo& p, Module2& m) {
             simples = false;
         }
         ++col;
+    };
+    // The excluded positions ascend strictly, so that one walk along them
+    // answers PosicaoExcluida for every index.
+    const int64_t tomados = ultIndice - ultPos;
+    if (ultPos >= 0 && tomados >= 0 && ultIndice < 128 && pos[0].valor() >= 0 &&
+        pos[ultPos].valor() <= ultIndice) {
+        // Up to 128 numbers: the excluded positions as bits, the indices
+        // taken read from the bits left, in ascending order.
+        uint64_t excluidas[2] = {0, 0};
+        for (int64_t j = 0; j <= ultPos; ++j) {
+            const int v = pos[j].valor();
+            excluidas[v >> 6] |= uint64_t(1) << (v & 63);
+        }
+        for (int64_t w = 0; w < 2 && w * 64 <= ultIndice; ++w) {
+            const int64_t bits = std::min<int64_t>(64, ultIndice + 1 - w * 64);
+            uint64_t livres = ~excluidas[w] & (bits == 64 ? ~uint64_t(0) : (uint64_t(1) << bits) - 1);
+            while (livres) {
+                toma(w * 64 + std::countr_zero(livres));
+                livres &= livres - 1;
+            }
+        }
+    } else {
+        int64_t j = 0;
+        for (int64_t idx = 0; idx <= ultIndice; ++idx) {
+            if (j <= ultPos && pos[j].valor() == idx) {
+                ++j;
+                continue;
+            }
+            toma(idx);
+        }
     }
     e.VetRes.defineCelulas(linha, codigos, col);
     if (!simples) {
         // A number that two digits cannot hold is kept as its text.
         int c = 0;
-        j = 0;
+        int64_t j = 0;
         for (int64_t idx = 0; idx <= ultIndice; ++idx) {
             if (j <= ultPos && pos[j].valor() == idx) {
                 ++j;

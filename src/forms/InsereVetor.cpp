@@ -17,7 +17,9 @@ JanelaInsereVetor::JanelaInsereVetor(Programa& p, QWidget* pai)
     vincula(lblCont_, v_.LblCont);
     vincula(lblTotal, v_.LblTotal);
     liga(cancelar, &QPushButton::clicked, [this] { v_.BtnCancelar(); });
-    contou_ = Ligacao(v_.aoContar, [this](const QString& t) { lblCont_->setText(t); });
+    // LblCont reaches the label with the other bindings, when a yield brings
+    // the windows up to date: a label set at every count would cost more than
+    // the bets themselves.
     rotulos_ = Ligacao(v_.aoMostrarRotulos, [this] { sincroniza(); });
     rodaAoAparecer([this] { v_.ativa(); });
 }

@@ -16,7 +16,7 @@ public:
 private:
     InsereVetor v_;
     QLabel* lblCont_;
-    Ligacao contou_, rotulos_;
+    Ligacao rotulos_;
 };
 
 // Shows the dialog modal over `pai`; returns when it has closed.

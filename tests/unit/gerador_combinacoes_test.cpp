@@ -50,6 +50,77 @@ TEST(CombinaVetor, MarcasForaDeOrdemChegamNaOrdemDaGrade) {
     EXPECT_EQ(linhaRes(b.p, 9, 3), QStringLiteral("02 09 17"));
 }
 
+namespace {
+// The rows of n marked numbers taken k at a time, as the generator orders
+// them: the sets of excluded positions in lexicographic order, each row the
+// numbers left.
+QStringList linhasEsperadas(const std::vector<int>& numeros, int k) {
+    const int n = int(numeros.size()), e = n - k;
+    std::vector<int> excl(static_cast<size_t>(e));
+    for (int i = 0; i < e; ++i)
+        excl[size_t(i)] = i;
+    QStringList linhas;
+    for (;;) {
+        QStringList cel;
+        for (int i = 0, j = 0; i < n; ++i) {
+            if (j < e && excl[size_t(j)] == i) {
+                ++j;
+                continue;
+            }
+            cel << formata00(numeros[size_t(i)]);
+        }
+        linhas << cel.join(u' ');
+        int i = e - 1;
+        while (i >= 0 && excl[size_t(i)] == n - e + i)
+            --i;
+        if (i < 0) break;
+        ++excl[size_t(i)];
+        for (int j = i + 1; j < e; ++j)
+            excl[size_t(j)] = excl[size_t(j - 1)] + 1;
+    }
+    return linhas;
+}
+} // namespace
+
+TEST(CombinaVetor, PoucosNumerosDeMuitosSaemNaMesmaOrdem) {
+    // Few numbers taken among many marked (the rows found by a search over
+    // the excluded positions), against the order of the excluded sets.
+    const std::vector<std::vector<int>> marcas = {
+        {2, 5, 7, 11, 13, 17, 19, 23, 29, 31, 37, 41, 43, 47, 53, 59, 60, 1, 4, 9},
+        {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20,
+         21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40}};
+    for (const auto& m : marcas) {
+        for (int k : {1, 2, 3}) {
+            ProgramaTeste b;
+            for (int x : m)
+                b.marca({x});
+            ASSERT_TRUE(gera(b, k));
+            std::vector<int> ordenados = m;
+            std::sort(ordenados.begin(), ordenados.end());
+            const QStringList esperadas = linhasEsperadas(ordenados, k);
+            ASSERT_EQ(module2(b.p).LinhaRes, int(esperadas.size())) << k;
+            for (int r = 0; r < int(esperadas.size()); ++r)
+                ASSERT_EQ(linhaRes(b.p, r, k), esperadas[r]) << "k " << k << " linha " << r;
+        }
+    }
+}
+
+TEST(CombinaVetor, CemNumerosDaLotomaniaDoisADoisSaemNaMesmaOrdem) {
+    // More than 64 numbers: the excluded positions fill two words.
+    ProgramaTeste b;
+    TrocaLoteria(b.p, QStringLiteral("Lotomania"));
+    std::vector<int> todos;
+    for (int n = 0; n <= 99; ++n) {
+        ClicaNumero(b.p, Int16::de(int64_t(b.celula(n))));
+        todos.push_back(n);
+    }
+    ASSERT_TRUE(gera(b, 2));
+    const QStringList esperadas = linhasEsperadas(todos, 2);
+    ASSERT_EQ(module2(b.p).LinhaRes, int(esperadas.size()));
+    for (int r = 0; r < int(esperadas.size()); ++r)
+        ASSERT_EQ(linhaRes(b.p, r, 2), esperadas[r]) << "linha " << r;
+}
+
 TEST(CombinaVetor, NIgualAKDaUmaLinhaComTodos) {
     ProgramaTeste b;
     b.marcaFaixa(10, 15);
