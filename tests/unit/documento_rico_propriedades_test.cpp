@@ -196,7 +196,7 @@ void compara(Par& par) {
 } // namespace
 
 TEST(DocumentoRicoPropriedades, SequenciasAleatoriasDaoOMesmoQueODocumentoSimples) {
-    for (uint32_t semente = 1; semente <= 30; ++semente) {
+    for (uint32_t semente = 1; semente <= 20; ++semente) {
         SCOPED_TRACE(semente);
         Par par(semente);
         for (int passo = 0; passo < 40; ++passo) {
